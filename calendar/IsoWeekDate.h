@@ -1,0 +1,43 @@
+#pragma once
+
+// ISO 8601 week dates to day numbers and back, and their differences.
+
+#include <cstdint>
+
+namespace calvoro {
+
+struct IsoWeekDate {
+    std::int32_t year = 0;  // ISO week-numbering year
+    std::int32_t week = 0;  // 1 to 53
+    std::int32_t day = 0;   // 1 Monday to 7 Sunday
+    std::int32_t jdn = 0;
+    std::int32_t set = 0;  // 1 when filled from a typed text
+
+    friend constexpr bool operator==(const IsoWeekDate&, const IsoWeekDate&) = default;
+};
+static_assert(sizeof(IsoWeekDate) == 20, "five 32-bit fields");
+
+/// Day number of the Monday that begins week 1 of an ISO year.
+/// year    any year whose result fits 32 bits
+/// throws  ArithmeticOverflow
+/// source  ISO 8601: week 1 is the week of the year's first Thursday
+std::int32_t IsoWeekOneStart(std::int32_t year);
+
+/// Fills year, week and day from the record's jdn. Exact for every 32-bit day number.
+void JdnToIsoWeekDate(IsoWeekDate& date);
+
+/// Sets jdn from year, week and day, without validation.
+/// throws  ArithmeticOverflow
+void IsoWeekDateToJdn(IsoWeekDate& date);
+
+/// Whether an ISO year has 53 weeks. Deliberate: never true below year 1, because the test takes the
+/// remainder of a negative number.
+bool HasWeek53(std::int32_t year);
+
+/// Years, weeks and days from the first week date to the second.
+/// status  0, or -1 when a value is negative (the second date lies before the first)
+/// throws  ArithmeticOverflow
+void IsoDifference(const IsoWeekDate& first, const IsoWeekDate& second, std::int32_t& years,
+                   std::int16_t& weeks, std::int16_t& days, std::int32_t& status);
+
+}  // namespace calvoro

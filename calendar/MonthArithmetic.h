@@ -1,0 +1,26 @@
+#pragma once
+
+// Adding months to a date, and the distance of two dates in years, months and days. Both work on the
+// fields year, month and day.
+
+#include <cstdint>
+
+#include "calendar/DateRecord.h"
+
+namespace calvoro {
+
+/// The date `months` months after (before, when negative) the source; a day beyond the end of the
+/// resulting month becomes its last day. Fills year, month, day and jdn of the result.
+/// leapWeekForm  the record holds a leap-week date in its month form
+/// throws        ArithmeticOverflow
+void AddMonths(const DateRecord& source, std::int32_t months, DateRecord& result, bool leapWeekForm);
+
+/// Years, months and days from the first date to the second. The caller orders the two dates; a negative
+/// count of days, where the first date's day exceeds the length of the month before the second date's, is
+/// left as it is.
+/// status  set to 0 first, then as DaysInMonth sets it
+/// throws  ArithmeticOverflow
+void YearsMonthsDays(const DateRecord& first, const DateRecord& second, std::int32_t& years,
+                     std::int16_t& months, std::int16_t& days, std::int32_t& status);
+
+}  // namespace calvoro

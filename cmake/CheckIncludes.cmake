@@ -1,0 +1,30 @@
+# The include roots keep one layer out of another; two things they cannot see are checked here, in every
+# build: a path with "../" that walks around them, and platform/qt, which lies inside a folder that the
+# windows may use but is for the program's entry alone.
+#
+# Included by the main CMakeLists.txt it adds the check; run as a script it is the check.
+
+if(NOT CMAKE_SCRIPT_MODE_FILE)
+  add_custom_target(check_includes ALL
+    COMMAND "${CMAKE_COMMAND}" "-DROOT=${CMAKE_CURRENT_SOURCE_DIR}"
+            -P "${CMAKE_CURRENT_SOURCE_DIR}/cmake/CheckIncludes.cmake"
+    COMMENT "Checking include paths" VERBATIM)
+  return()
+endif()
+
+set(faults 0)
+foreach(folder calendar datetext text compute platform windows mainwindow app cli tests bench)
+  file(GLOB_RECURSE files "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
+  foreach(file IN LISTS files)
+    file(STRINGS "${file}" includes REGEX "^[ \t]*#[ \t]*include")
+    file(RELATIVE_PATH name "${ROOT}" "${file}")
+    foreach(line IN LISTS includes)
+      if(line MATCHES "\\.\\./")
+        message(SEND_ERROR "${name}: an include must name its folder, not climb to it: ${line}")
+      endif()
+      if(line MATCHES "\"platform/qt/" AND NOT name MATCHES "^(app|platform/qt|tests)/")
+        message(SEND_ERROR "${name}: platform/qt is for app/ alone: ${line}")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()

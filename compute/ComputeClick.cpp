@@ -1,0 +1,1 @@
+#include "compute/ComputeClick.h"

@@ -1,0 +1,1 @@
+#include "compute/ComputeMessages.h"

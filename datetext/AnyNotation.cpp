@@ -1,0 +1,1 @@
+#include "datetext/AnyNotation.h"

@@ -1,0 +1,1 @@
+#include "datetext/IsoWeekText.h"

@@ -1,0 +1,1 @@
+#include "datetext/LeapWeekText.h"

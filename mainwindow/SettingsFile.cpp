@@ -1,0 +1,1 @@
+#include "mainwindow/SettingsFile.h"
