@@ -1,0 +1,616 @@
+#include "mainwindow/SettingsFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <rapidcheck.h>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <ostream>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace calvoro {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kFactoryText =
+    "0\r\n2,45,44\r\n0,0,"
+    "0\r\n0\r\n1\r\n1\r\n1\r\n1\r\n\"Sun\"\r\n\"CE\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n0\r\n";
+
+std::vector<std::string> FactoryLines() {
+    return {"0",       "2,45,44", "0,0,0", "0",    "1",    "1",    "1", "1",
+            "\"Sun\"", "\"CE\"",  "\"\"",  "\"\"", "\"\"", "\"\"", "0"};
+}
+
+std::string Joined(const std::vector<std::string>& lines, std::string_view lineEnd = "\r\n") {
+    std::string text;
+    for (const std::string& line : lines) text.append(line).append(lineEnd);
+    return text;
+}
+
+/// The factory file with one line replaced, counted from 1 as in the file's description.
+std::string WithLine(std::size_t number, const std::string& line) {
+    std::vector<std::string> lines = FactoryLines();
+    lines.at(number - 1) = line;
+    return Joined(lines);
+}
+
+Settings FullSettings() {
+    Settings settings;
+    settings.interfaceLanguage = LanguageGerman;
+    settings.dateFormat = DateFormat::DMY;
+    settings.dateSeparator = '.';
+    settings.thousandsSeparator = kNoSeparator;
+    settings.todayCalendar = CalendarNumber::LPM;
+    settings.firstCalendar = CalendarNumber::ORD;
+    settings.secondCalendar = CalendarNumber::ISO;
+    settings.includeFirstDate = true;
+    settings.includeWeekends = false;
+    settings.verbose = false;
+    settings.hyphen = false;
+    settings.monthWeekStart = WeekStart::Monday;
+    settings.monthCalendar = CalendarNumber::JC;
+    settings.firstDate = "2024075";
+    settings.dateDiff = "-10";
+    settings.secondDate = "2024W053";
+    settings.output = "one\r\ntwo\r\n";
+    settings.differenceUnit = DifferenceUnit::Months;
+    return settings;
+}
+
+class SettingsFolder : public testing::Test {
+protected:
+    void SetUp() override {
+        std::string name = (fs::temp_directory_path() / "calvoro-settings-XXXXXX").string();
+        ASSERT_NE(::mkdtemp(name.data()), nullptr);
+        folder_ = name;
+        path_ = (folder_ / "calvoro.usr").string();
+    }
+    void TearDown() override { fs::remove_all(folder_); }
+
+    std::string Content() const {
+        std::ifstream file(path_, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    void Put(std::string_view content) const {
+        std::ofstream(path_, std::ios::binary) << content;
+        ASSERT_EQ(Content(), content);
+    }
+    std::set<std::string> Names() const {
+        std::set<std::string> names;
+        for (const auto& entry : fs::directory_iterator(folder_)) names.insert(entry.path().filename());
+        return names;
+    }
+
+    fs::path folder_;
+    std::string path_;
+};
+
+// ---- writing
+
+TEST(SettingsText, WritesTheFactoryValues) {
+    EXPECT_EQ(SettingsText(Settings{}), kFactoryText);
+}
+
+TEST(SettingsText, WritesEveryField) {
+    EXPECT_EQ(SettingsText(FullSettings()),
+              "1\r\n1,46,0\r\n8,4,6\r\n1\r\n0\r\n0\r\n0\r\n1\r\n\"Mon\"\r\n\"JC\"\r\n"
+              "\"2024075\"\r\n\"-10\"\r\n\"2024W053\"\r\n\"one\r\ntwo\r\n\"\r\n1\r\n");
+}
+
+TEST(SettingsText, LeavesTheTextsOutWhenTheyAreNotToBeSaved) {
+    Settings settings = FullSettings();
+    settings.saveOutput = false;
+    EXPECT_EQ(SettingsText(settings),
+              "1\r\n1,46,0\r\n8,4,6\r\n1\r\n0\r\n0\r\n0\r\n0\r\n\"Mon\"\r\n\"JC\"\r\n"
+              "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n1\r\n");
+    const auto read = ParseSettingsText(SettingsText(settings));
+    settings.firstDate = settings.dateDiff = settings.secondDate = settings.output = "";
+    EXPECT_EQ(read, settings);
+}
+
+TEST(SettingsText, DoesNotEscapeQuotes) {
+    Settings settings;
+    settings.firstDate = "a\"b";
+    EXPECT_EQ(SettingsText(settings), WithLine(11, "\"a\"b\""));
+}
+
+// ---- every value of every field
+
+struct FieldRow {
+    const char* name;
+    std::size_t line;
+    const char* text;
+    std::function<void(Settings&)> expected;
+
+    friend void PrintTo(const FieldRow& row, std::ostream* out) { *out << row.line << ": " << row.text; }
+};
+
+class FieldValues : public testing::TestWithParam<FieldRow> {};
+
+TEST_P(FieldValues, AreRestored) {
+    Settings expected;
+    GetParam().expected(expected);
+    EXPECT_EQ(ParseSettingsText(WithLine(GetParam().line, GetParam().text)), expected);
+}
+
+std::function<void(Settings&)> Calendars(CalendarNumber today, CalendarNumber first, CalendarNumber second) {
+    return [=](Settings& s) { s.todayCalendar = today, s.firstCalendar = first, s.secondCalendar = second; };
+}
+std::function<void(Settings&)> Formats(DateFormat format, char separator, char thousands) {
+    return [=](Settings& s) {
+        s.dateFormat = format, s.dateSeparator = separator, s.thousandsSeparator = thousands;
+    };
+}
+void NoChange(Settings&) {}
+
+using enum CalendarNumber;
+
+INSTANTIATE_TEST_SUITE_P(
+    Language, FieldValues,
+    testing::Values(FieldRow{"English", 1, "0", NoChange},
+                    FieldRow{"German", 1, "1", [](Settings& s) { s.interfaceLanguage = LanguageGerman; }},
+                    FieldRow{"Third", 1, "2", [](Settings& s) { s.interfaceLanguage = LanguageSpanish; }},
+                    FieldRow{"Blanks", 1, " 1 ", [](Settings& s) { s.interfaceLanguage = LanguageGerman; }},
+                    FieldRow{"Plus", 1, "+1", [](Settings& s) { s.interfaceLanguage = LanguageGerman; }},
+                    FieldRow{"MinusZero", 1, "-0", NoChange},
+                    FieldRow{"Zeros", 1, "0000000000000000000001",
+                             [](Settings& s) { s.interfaceLanguage = LanguageGerman; }}),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Formats, FieldValues,
+    testing::Values(FieldRow{"MonthFirst", 2, "0,45,44", Formats(DateFormat::MDY, '-', ',')},
+                    FieldRow{"DayFirst", 2, "1,45,44", Formats(DateFormat::DMY, '-', ',')},
+                    FieldRow{"YearFirst", 2, "2,45,44", NoChange},
+                    FieldRow{"UnknownFormat", 2, "3,45,44", NoChange},
+                    FieldRow{"NegativeFormat", 2, "-1,45,44", NoChange},
+                    FieldRow{"HugeFormat", 2, "4294967297,45,44", NoChange},
+                    FieldRow{"Slash", 2, "2,47,44", Formats(DateFormat::YMD, '/', ',')},
+                    FieldRow{"Dot", 2, "2,46,44", Formats(DateFormat::YMD, '.', ',')},
+                    FieldRow{"UnknownSeparator", 2, "2,302,44", NoChange},
+                    FieldRow{"NoSeparator", 2, "2,0,44", NoChange},
+                    FieldRow{"ThousandsDot", 2, "2,45,46", Formats(DateFormat::YMD, '-', '.')},
+                    FieldRow{"ThousandsNone", 2, "2,45,0", Formats(DateFormat::YMD, '-', kNoSeparator)},
+                    FieldRow{"UnknownThousands", 2, "2,45,300", NoChange},
+                    FieldRow{"NegativeThousands", 2, "2,45,-44", NoChange},
+                    FieldRow{"Blanks", 2, " 2 , 46 , 46 ", Formats(DateFormat::YMD, '.', '.')},
+                    FieldRow{"DayFirstDotNone", 2, "1,46,0", Formats(DateFormat::DMY, '.', kNoSeparator)}),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(Calendars, FieldValues,
+                         testing::Values(FieldRow{"JC", 3, "1,1,1", Calendars(JC, JC, JC)},
+                                         FieldRow{"JDN", 3, "2,2,2", Calendars(JDN, JDN, JDN)},
+                                         FieldRow{"AnIsNotOffered", 3, "3,3,3", NoChange},
+                                         FieldRow{"ORD", 3, "4,4,4", Calendars(ORD, ORD, ORD)},
+                                         FieldRow{"VlwIsNotOffered", 3, "5,5,5", NoChange},
+                                         FieldRow{"ISO", 3, "6,6,6", Calendars(ISO, ISO, ISO)},
+                                         FieldRow{"LPW", 3, "7,7,7", Calendars(LPW, LPW, LPW)},
+                                         FieldRow{"LPM", 3, "8,8,8", Calendars(LPM, LPM, LPM)},
+                                         FieldRow{"ArcIsNotOffered", 3, "9,9,9", NoChange},
+                                         FieldRow{"Unknown", 3, "10,-1,65536", NoChange},
+                                         FieldRow{"Huge", 3, "99999999999,-99999999999,65537", NoChange},
+                                         FieldRow{"Mixed", 3, "6,1,4", Calendars(ISO, JC, ORD)}),
+                         [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    CheckBoxes, FieldValues,
+    testing::Values(FieldRow{"IncludeFirst", 4, "1", [](Settings& s) { s.includeFirstDate = true; }},
+                    FieldRow{"IncludeFirstBlanks", 4, " 1 ", [](Settings& s) { s.includeFirstDate = true; }},
+                    FieldRow{"IncludeFirstGrey", 4, "2", NoChange},
+                    FieldRow{"IncludeFirstMinusOne", 4, "-1", NoChange},
+                    FieldRow{"IncludeFirstWord", 4, "True", NoChange},
+                    FieldRow{"IncludeFirstQuoted", 4, "\"1\"", NoChange},
+                    FieldRow{"IncludeFirstNumberAndLetters", 4, "1x", NoChange},
+                    FieldRow{"IncludeFirstTwoNumbers", 4, "1,1", NoChange},
+                    FieldRow{"IncludeFirstEmpty", 4, "", NoChange},
+                    FieldRow{"IncludeFirstHuge", 4, "4294967297", NoChange},
+                    FieldRow{"Weekends", 5, "0", [](Settings& s) { s.includeWeekends = false; }},
+                    FieldRow{"WeekendsWord", 5, "x", [](Settings& s) { s.includeWeekends = false; }},
+                    FieldRow{"Verbose", 6, "0", [](Settings& s) { s.verbose = false; }},
+                    FieldRow{"Hyphen", 7, "0", [](Settings& s) { s.hyphen = false; }},
+                    FieldRow{"SaveOutput", 8, "0", [](Settings& s) { s.saveOutput = false; }},
+                    FieldRow{"SaveOutputEmpty", 8, "", [](Settings& s) { s.saveOutput = false; }}),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, FieldValues,
+    testing::Values(
+        FieldRow{"Monday", 9, "\"Mon\"", [](Settings& s) { s.monthWeekStart = WeekStart::Monday; }},
+        FieldRow{"UnknownWeekStart", 9, "\"Tue\"", NoChange}, FieldRow{"EmptyWeekStart", 9, "\"\"", NoChange},
+        FieldRow{"WeekStartInCapitals", 9, "\"MON\"", NoChange},
+        FieldRow{"Julian", 10, "\"JC\"", [](Settings& s) { s.monthCalendar = JC; }},
+        FieldRow{"UnknownMonthCalendar", 10, "\"ISO\"", NoChange},
+        FieldRow{"First", 11, "\"2024-02-29\"", [](Settings& s) { s.firstDate = "2024-02-29"; }},
+        FieldRow{"FirstWithQuote", 11, "\"a\"b\"", [](Settings& s) { s.firstDate = "a\"b"; }},
+        FieldRow{"FirstOfQuotes", 11, "\"\"\"\"", [](Settings& s) { s.firstDate = "\"\""; }},
+        FieldRow{"FirstLikeTwoFields", 11, "\"a\",\"b\"", [](Settings& s) { s.firstDate = "a\",\"b"; }},
+        FieldRow{"FirstWithBlanksAfterIt", 11, "\"a\"  ", [](Settings& s) { s.firstDate = "a"; }},
+        FieldRow{"FirstWithLineBreak", 11, "\"a\r\nb\"", [](Settings& s) { s.firstDate = "a\r\nb"; }},
+        FieldRow{"FirstWithLineFeed", 11, "\"a\"\n\"b\"", [](Settings& s) { s.firstDate = "a\"\n\"b"; }},
+        FieldRow{"Difference", 12, "\"1,000\"", [](Settings& s) { s.dateDiff = "1,000"; }},
+        FieldRow{"Second", 13, "\"\xC3\xA4\"", [](Settings& s) { s.secondDate = "\xC3\xA4"; }},
+        FieldRow{"SecondInvalidUtf8", 13, "\"\xFF\xC3\"", [](Settings& s) { s.secondDate = "\xFF\xC3"; }},
+        FieldRow{"Output", 14, "\"a\r\nb\r\n\"", [](Settings& s) { s.output = "a\r\nb\r\n"; }},
+        FieldRow{"OutputWithLineFeeds", 14, "\"a\nb\n\"", [](Settings& s) { s.output = "a\nb\n"; }},
+        FieldRow{"OutputLikeTheEnd", 14, "\"a\"\r\n1\r\n\"", [](Settings& s) { s.output = "a\"\r\n1\r\n"; }},
+        FieldRow{"OutputLikeTheEndWithoutLineEnd", 14, "\"a\"\r\n1\"",
+                 [](Settings& s) { s.output = "a\"\r\n1"; }},
+        FieldRow{"OutputOfQuotes", 14, "\"\"\"\"\"\"", [](Settings& s) { s.output = "\"\"\"\""; }},
+        FieldRow{"OutputWithBlanksAfterIt", 14, "\"a\" ", [](Settings& s) { s.output = "a"; }}),
+    [](const auto& row) { return row.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Unit, FieldValues,
+    testing::Values(FieldRow{"Days", 15, "0", NoChange},
+                    FieldRow{"Months", 15, "1",
+                             [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }},
+                    FieldRow{"MonthsWithBlanks", 15, " 1 ",
+                             [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }},
+                    FieldRow{"Unknown", 15, "2", NoChange}, FieldRow{"Negative", 15, "-1", NoChange},
+                    FieldRow{"EmptyLinesAfterIt", 15, "1\r\n\r\n",
+                             [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }}),
+    [](const auto& row) { return row.param.name; });
+
+// ---- line ends
+
+TEST(ParseSettingsText, ReadsLineFeedsAlone) {
+    std::vector<std::string> lines = FactoryLines();
+    lines[10] = "\"say \"a\"\"";
+    lines[13] = "\"one\ntwo\n\"";
+    const auto read = ParseSettingsText(Joined(lines, "\n"));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->firstDate, "say \"a\"");
+    EXPECT_EQ(read->output, "one\ntwo\n");
+}
+
+TEST(ParseSettingsText, NeedsNoLineEndAfterTheLastLine) {
+    EXPECT_EQ(ParseSettingsText(kFactoryText.substr(0, kFactoryText.size() - 2)), Settings{});
+    EXPECT_EQ(ParseSettingsText(kFactoryText.substr(0, kFactoryText.size() - 1)), Settings{});
+}
+
+TEST(ParseSettingsText, KeepsNulBytes) {
+    Settings settings;
+    settings.secondDate = std::string("a\0b", 3);
+    settings.output = std::string("\0\r\n\0", 4);
+    EXPECT_EQ(ParseSettingsText(SettingsText(settings)), settings);
+}
+
+// ---- damage
+
+struct DamageRow {
+    const char* name;
+    std::size_t line;
+    const char* text;
+
+    friend void PrintTo(const DamageRow& row, std::ostream* out) { *out << row.line << ": " << row.text; }
+};
+
+class Damage : public testing::TestWithParam<DamageRow> {};
+
+TEST_P(Damage, MakesTheFileFaulty) {
+    EXPECT_EQ(ParseSettingsText(WithLine(GetParam().line, GetParam().text)), std::nullopt);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lines, Damage,
+    testing::Values(
+        DamageRow{"LanguageBelow", 1, "-1"}, DamageRow{"LanguageAbove", 1, "3"},
+        DamageRow{"LanguageHuge", 1, "4294967296"}, DamageRow{"LanguageNegativeHuge", 1, "-4294967296"},
+        DamageRow{"LanguageOverflowing", 1, "18446744073709551616"},
+        DamageRow{"LanguageLetters", 1, "English"}, DamageRow{"LanguageQuoted", 1, "\"0\""},
+        DamageRow{"LanguageEmpty", 1, ""}, DamageRow{"LanguageSignAlone", 1, "-"},
+        DamageRow{"LanguageTwoSigns", 1, "+-0"}, DamageRow{"LanguageSignApart", 1, "- 0"},
+        DamageRow{"LanguageFraction", 1, "0.0"}, DamageRow{"LanguageTwoFields", 1, "0,0"},
+        DamageRow{"LanguageByteOrderMark", 1,
+                  "\xEF\xBB\xBF"
+                  "0"},
+        DamageRow{"LanguageForeignDigit", 1, "\xD9\xA1"}, DamageRow{"FormatsTwoFields", 2, "2,45"},
+        DamageRow{"FormatsFourFields", 2, "2,45,44,0"}, DamageRow{"FormatsEmptyField", 2, "2,,44"},
+        DamageRow{"FormatsLastFieldEmpty", 2, "2,45,"}, DamageRow{"FormatsLetters", 2, "YMD,45,44"},
+        DamageRow{"FormatsCharacter", 2, "2,-,44"}, DamageRow{"FormatsEmpty", 2, ""},
+        DamageRow{"FormatsSemicolons", 2, "2;45;44"}, DamageRow{"CalendarsLetters", 3, "0,JC,0"},
+        DamageRow{"CalendarsTwoFields", 3, "0,0"}, DamageRow{"CalendarsTrailingLetter", 3, "0,0,0x"},
+        DamageRow{"WeekStartUnquoted", 9, "Mon"}, DamageRow{"WeekStartUnclosed", 9, "\"Mon"},
+        DamageRow{"WeekStartUnopened", 9, "Mon\""}, DamageRow{"WeekStartNumber", 9, "1"},
+        DamageRow{"WeekStartBlankBefore", 9, " \"Mon\""}, DamageRow{"WeekStartWordAfter", 9, "\"Mon\" x"},
+        DamageRow{"MonthCalendarEmpty", 10, ""}, DamageRow{"MonthCalendarQuoteAlone", 10, "\""},
+        DamageRow{"FirstUnquoted", 11, "2024-02-29"}, DamageRow{"FirstEmpty", 11, ""},
+        DamageRow{"FirstUnclosed", 11, "\"2024"}, DamageRow{"DifferenceUnquoted", 12, "10"},
+        DamageRow{"SecondUnquoted", 13, "x"}, DamageRow{"SecondUnclosed", 13, "\"x"},
+        DamageRow{"OutputUnquoted", 14, "x"}, DamageRow{"OutputUnclosed", 14, "\"x"},
+        DamageRow{"OutputUnopened", 14, "x\""}, DamageRow{"OutputEmpty", 14, ""},
+        DamageRow{"OutputQuoteAlone", 14, "\""}, DamageRow{"OutputWordAfter", 14, "\"a\" x"},
+        DamageRow{"UnitLetters", 15, "days"}, DamageRow{"UnitEmpty", 15, ""},
+        DamageRow{"UnitQuoted", 15, "\"0\""}, DamageRow{"UnitTwoFields", 15, "0,0"},
+        DamageRow{"UnitFollowedByALine", 15, "0\r\nx"}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(ParseSettingsText, RefusesAFileWithoutOneOfItsLines) {
+    for (std::size_t missing = 0; missing < 15; ++missing) {
+        std::vector<std::string> lines = FactoryLines();
+        lines[8] = "\"Mon\"";
+        lines[13] = "\"out\r\nput\r\n\"";
+        lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(missing));
+        // Without one of the check boxes or of the texts the ones behind it move up, so the count is what
+        // tells: the quoted lines meet a number, or the last line is missing.
+        EXPECT_EQ(ParseSettingsText(Joined(lines)), std::nullopt) << "line " << missing + 1;
+    }
+}
+
+TEST(ParseSettingsText, RefusesAFileCutAnywhere) {
+    Settings settings = FullSettings();
+    settings.output = "2021-03-04 CE plus 10 days = 2021-03-01 JC, Sunday\r\n";
+    const std::string whole = SettingsText(settings);
+    ASSERT_EQ(ParseSettingsText(whole), settings);
+    // Up to its last digit the file is faulty; only the line end after it may be missing.
+    for (std::size_t length = 0; length + 2 < whole.size(); ++length) {
+        EXPECT_EQ(ParseSettingsText(whole.substr(0, length)), std::nullopt) << "first " << length << " bytes";
+    }
+}
+
+TEST(ParseSettingsText, RefusesWhatIsNoSettingsFile) {
+    EXPECT_EQ(ParseSettingsText(""), std::nullopt);
+    EXPECT_EQ(ParseSettingsText("\r\n"), std::nullopt);
+    EXPECT_EQ(ParseSettingsText(std::string(100'000, '\0')), std::nullopt);
+    EXPECT_EQ(ParseSettingsText(std::string(100'000, '\n')), std::nullopt);
+    EXPECT_EQ(ParseSettingsText(std::string(100'000, '"')), std::nullopt);
+    EXPECT_EQ(ParseSettingsText(std::string(100'000, '9')), std::nullopt);
+}
+
+TEST(ParseSettingsText, IsNotSlowedDownByAMissingQuote) {
+    // Ten million line ends in search of the quote that closes the first date.
+    std::string text = "0\n2,45,44\n0,0,0\n0\n1\n1\n1\n1\n\"Sun\"\n\"CE\"\n\"";
+    text.append(10'000'000, '\n');
+    EXPECT_EQ(ParseSettingsText(text), std::nullopt);
+}
+
+// ---- whatever was saved comes back
+
+rc::Gen<std::string> HostileText() {
+    // Few characters, chosen from those that mean something in the file, so that they meet often.
+    return rc::gen::map(rc::gen::container<std::vector<std::string>>(rc::gen::element<std::string>(
+                            "\"", "\"", "\r", "\n", "\r\n", "0", "1", ",", " ", "\t", "a", "\"\r\n1\r\n",
+                            "\"\r\n0", "\"\n\"", std::string(1, '\0'), "\xC3\xA4", "\xFF", "2024-02-29")),
+                        [](const std::vector<std::string>& pieces) {
+                            std::string text;
+                            for (const std::string& piece : pieces) text += piece;
+                            return text;
+                        });
+}
+
+/// What a box can hold: anything without the file's own line end.
+rc::Gen<std::string> BoxText() {
+    return rc::gen::suchThat(rc::gen::oneOf(HostileText(), rc::gen::arbitrary<std::string>()),
+                             [](const std::string& text) { return text.find("\r\n") == std::string::npos; });
+}
+
+Settings ArbitrarySettings() {
+    const auto calendar = rc::gen::element(CE, JC, JDN, ORD, ISO, LPW, LPM);
+    Settings settings;
+    settings.interfaceLanguage = *rc::gen::element(LanguageEnglish, LanguageGerman, LanguageSpanish);
+    settings.dateFormat = *rc::gen::element(DateFormat::MDY, DateFormat::DMY, DateFormat::YMD);
+    settings.dateSeparator = *rc::gen::element('-', '/', '.');
+    settings.thousandsSeparator = *rc::gen::element(',', '.', kNoSeparator);
+    settings.todayCalendar = *calendar;
+    settings.firstCalendar = *calendar;
+    settings.secondCalendar = *calendar;
+    settings.includeFirstDate = *rc::gen::arbitrary<bool>();
+    settings.includeWeekends = *rc::gen::arbitrary<bool>();
+    settings.verbose = *rc::gen::arbitrary<bool>();
+    settings.hyphen = *rc::gen::arbitrary<bool>();
+    settings.monthWeekStart = *rc::gen::element(WeekStart::Sunday, WeekStart::Monday);
+    settings.monthCalendar = *rc::gen::element(CE, JC);
+    settings.firstDate = *BoxText();
+    settings.dateDiff = *BoxText();
+    settings.secondDate = *BoxText();
+    settings.output = *rc::gen::oneOf(HostileText(), rc::gen::arbitrary<std::string>());
+    settings.differenceUnit = *rc::gen::element(DifferenceUnit::Days, DifferenceUnit::Months);
+    return settings;
+}
+
+TEST(SettingsText, ComesBackWhateverWasSaved) {
+    EXPECT_TRUE(rc::check([] {
+        const Settings settings = ArbitrarySettings();
+        const auto read = ParseSettingsText(SettingsText(settings));
+        RC_ASSERT(read.has_value());
+        RC_ASSERT(read->firstDate == settings.firstDate);
+        RC_ASSERT(read->dateDiff == settings.dateDiff);
+        RC_ASSERT(read->secondDate == settings.secondDate);
+        RC_ASSERT(read->output == settings.output);
+        RC_ASSERT(*read == settings);
+    }));
+}
+
+TEST(SettingsText, ComesBackWithLineFeedsWhereABoxHasCarriageReturns) {
+    EXPECT_TRUE(rc::check([] {
+        Settings settings;
+        settings.firstDate = *HostileText();
+        settings.output = *HostileText();
+        const auto read = ParseSettingsText(SettingsText(settings));
+        RC_ASSERT(read.has_value());
+        std::string expected;
+        for (const char character : settings.firstDate) {
+            while (character == '\n' && expected.ends_with('\r')) expected.pop_back();
+            expected += character;
+        }
+        RC_ASSERT(read->firstDate == expected);
+        RC_ASSERT(read->output == settings.output);
+    }));
+}
+
+TEST(SettingsText, ComesBackWithTenMegabytesOfOutput) {
+    Settings settings;
+    while (settings.output.size() < 10'000'000) settings.output += "\"2024-02-29 CE\"\r\n1\r\n";
+    EXPECT_EQ(ParseSettingsText(SettingsText(settings)), settings);
+}
+
+// ---- files
+
+TEST_F(SettingsFolder, MakesOneLevel) {
+    const std::string path = SettingsFilePath(folder_.string(), "Calvoro");
+    EXPECT_EQ(path, folder_.string() + "/Calvoro/calvoro.usr");
+    EXPECT_TRUE(fs::is_directory(folder_ / "Calvoro"));
+    EXPECT_TRUE(fs::is_empty(folder_ / "Calvoro"));
+    EXPECT_EQ(SettingsFilePath(folder_.string(), "Calvoro"), path) << "an existing folder is kept";
+
+    const std::string deep = SettingsFilePath((folder_ / "missing").string(), "Calvoro");
+    EXPECT_EQ(deep, folder_.string() + "/missing/Calvoro/calvoro.usr");
+    EXPECT_FALSE(fs::exists(folder_ / "missing"));
+    EXPECT_FALSE(WriteSettingsFile(deep, Settings{}));
+    EXPECT_EQ(ReadSettingsFile(deep), std::nullopt);
+}
+
+TEST_F(SettingsFolder, IsNowhereWithoutABase) {
+    const std::string path = SettingsFilePath("", "Calvoro");
+    EXPECT_EQ(path, "");
+    EXPECT_FALSE(WriteSettingsFile(path, Settings{}));
+    EXPECT_EQ(ReadSettingsFile(path), std::nullopt);
+}
+
+TEST_F(SettingsFolder, HoldsWhatWasWritten) {
+    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
+    EXPECT_EQ(Content(), SettingsText(FullSettings()));
+    EXPECT_EQ(ReadSettingsFile(path_), FullSettings());
+    ASSERT_TRUE(WriteSettingsFile(path_, Settings{}));
+    EXPECT_EQ(Content(), kFactoryText);
+    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
+}
+
+TEST_F(SettingsFolder, GivesNothingForAFileThatCannotBeRead) {
+    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "missing";
+    Put("");
+    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "empty";
+    fs::remove(path_);
+    fs::create_directory(path_);
+    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "a folder";
+    fs::remove(path_);
+    ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "a pipe, which must not be waited for";
+}
+
+TEST_F(SettingsFolder, DeletesTheFileWhetherItIsThereOrNot) {
+    Put(kFactoryText);
+    DeleteSettingsFile(path_);
+    EXPECT_TRUE(Names().empty());
+    DeleteSettingsFile(path_);
+    DeleteSettingsFile("");
+    EXPECT_TRUE(Names().empty());
+}
+
+TEST_F(SettingsFolder, KeepsTheOldFileWhenTheDiskIsFull) {
+    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
+    // A limit on the size of files cuts the writing off as a full disk does; in a process of its own, since
+    // the limit stays.
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{100, 100};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        Settings large;
+        large.output.assign(200'000, 'x');
+        ::_exit(WriteSettingsFile(path_, large) ? 1 : 0);
+    }
+    int status = -1;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0) << "the failure must be reported";
+    EXPECT_EQ(ReadSettingsFile(path_), FullSettings());
+    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
+}
+
+TEST_F(SettingsFolder, LeavesNoLitterWhenTheFileCannotBeReplaced) {
+    fs::create_directories(fs::path(path_) / "in the way");
+    EXPECT_FALSE(WriteSettingsFile(path_, Settings{}));
+    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
+}
+
+TEST_F(SettingsFolder, CleansUpAfterAKilledWriter) {
+    std::ofstream(path_ + ".new") << "a part of what another process was writing";
+    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
+    EXPECT_EQ(ReadSettingsFile(path_), FullSettings());
+    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
+}
+
+TEST_F(SettingsFolder, FollowsALinkAndKeepsPermissions) {
+    const fs::path real = folder_ / "kept elsewhere";
+    std::ofstream(real) << kFactoryText;
+    fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink(real, path_);
+    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
+    EXPECT_TRUE(fs::is_symlink(path_));
+    EXPECT_EQ(ReadSettingsFile(real.string()), FullSettings());
+    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+/// Two files that differ in every text, large enough for the writing to be met in the middle.
+Settings LargeSettings(char filler) {
+    Settings settings;
+    settings.firstDate = settings.dateDiff = settings.secondDate = std::string(10, filler);
+    settings.output.assign(300'000, filler);
+    return settings;
+}
+
+TEST_F(SettingsFolder, IsWholeWheneverTheWriterIsKilled) {
+    const Settings one = LargeSettings('a');
+    const Settings other = LargeSettings('b');
+    ASSERT_TRUE(WriteSettingsFile(path_, one));
+    int written = 0;
+    for (int kill = 0; kill < 60; ++kill) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            for (;;) {
+                WriteSettingsFile(path_, other);
+                WriteSettingsFile(path_, one);
+            }
+        }
+        ::usleep(static_cast<useconds_t>(500 + kill * 137));
+        ASSERT_EQ(::kill(child, SIGKILL), 0);
+        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+        const auto read = ReadSettingsFile(path_);
+        ASSERT_TRUE(read == one || read == other) << "killed for the " << kill + 1 << ". time";
+        if (read == other) ++written;
+    }
+    EXPECT_GT(written, 0) << "no writer got as far as replacing the file";
+    EXPECT_LE(Names().size(), 2U);
+}
+
+TEST_F(SettingsFolder, IsWholeWhenTwoInstancesSaveAtOnce) {
+    const Settings one = LargeSettings('a');
+    const Settings other = LargeSettings('b');
+    std::vector<pid_t> writers;
+    for (const Settings* settings : {&one, &other}) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            bool good = true;
+            for (int round = 0; round < 50; ++round) {
+                good = WriteSettingsFile(path_, *settings) && good;
+                const auto read = ReadSettingsFile(path_);
+                good = good && (read == one || read == other);
+            }
+            ::_exit(good ? 0 : 1);
+        }
+        writers.push_back(child);
+    }
+    for (const pid_t writer : writers) {
+        int status = -1;
+        ASSERT_EQ(::waitpid(writer, &status, 0), writer);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
+}
+
+}  // namespace
+}  // namespace calvoro
