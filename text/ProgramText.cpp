@@ -1,1 +1,75 @@
 #include "text/ProgramText.h"
+
+#include <array>
+
+#include "text/ProgramTextFile.h"
+
+namespace calvoro {
+namespace {
+
+struct ResultMessage {
+    std::int32_t result;
+    std::string_view message;
+};
+
+constexpr std::int32_t kCannotOpen = -1;
+constexpr std::array<ResultMessage, 8> kResultMessages = {{
+    {0, "No program text was read."},
+    {kCannotOpen, "Cannot open file containing program text."},
+    {-2, "Particular memory allocation error."},
+    {-3, "Too much program text."},
+    {-4, "Text not recovered."},
+    {-6, "File is empty."},
+    {-7, "Error reading file."},
+    {-8, "General memory allocation error."},
+}};
+
+struct LineMessage {
+    std::int32_t below;  // results below this one, which names line 0
+    std::string_view message;
+};
+
+constexpr std::array<LineMessage, 3> kLineMessages = {{
+    {-1500, "Duplicate in program text at line"},
+    {-1000, "String too long at line"},
+    {-500, "Missing string at line"},
+}};
+
+// The size of the buffer that texts are fetched into, the NUL at its end included.
+constexpr std::size_t kTextBufferSize = 1024;
+
+}  // namespace
+
+std::string ProgramTextMessage(std::int32_t result, std::string_view path) {
+    if (result > 0) return "";
+    for (const ResultMessage& row : kResultMessages) {
+        if (row.result != result) continue;
+        std::string message(row.message);
+        if (result == kCannotOpen) message.append("\r\n").append(path);
+        return message;
+    }
+    for (const LineMessage& row : kLineMessages) {
+        if (result >= row.below) continue;
+        return std::string(row.message).append(" ").append(std::to_string(row.below - result)).append(".");
+    }
+    return "Error " + std::to_string(result);
+}
+
+std::string LoadProgramText(std::string_view folder, std::string_view fileName) {
+    std::string path(folder);
+    if (!folder.ends_with('/') && !folder.ends_with('\\')) path += '/';
+    path += fileName;
+    return ProgramTextMessage(lt(path.c_str(), 0), path);
+}
+
+std::string GetProgramText(std::int16_t number, LanguageNumber textLanguage) {
+    std::array<char, kTextBufferSize> buffer{};
+    const std::int32_t length =
+        gt(number, textLanguage, buffer.data(), static_cast<std::int32_t>(buffer.size()), 1);
+    if (length <= 0) return "";
+    std::string text(buffer.data(), static_cast<std::size_t>(length));
+    if (text == "~") return "";  // how the file writes an empty text
+    return text;
+}
+
+}  // namespace calvoro
