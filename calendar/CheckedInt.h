@@ -24,6 +24,13 @@ constexpr std::int32_t NarrowToInt32(std::int64_t value) {
     return static_cast<std::int32_t>(value);
 }
 
+/// The value in 16 bits, for the counts and fields that are that narrow.
+/// throws  ArithmeticOverflow when it does not fit
+constexpr std::int16_t NarrowToInt16(std::int64_t value) {
+    if (value != static_cast<std::int16_t>(value)) throw ArithmeticOverflow();
+    return static_cast<std::int16_t>(value);
+}
+
 /// A signed 32-bit number whose +, - and * throw ArithmeticOverflow instead of wrapping.
 class CheckedInt {
 public:
