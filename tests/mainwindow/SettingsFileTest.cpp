@@ -1,13 +1,10 @@
 #include "mainwindow/SettingsFile.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <rapidcheck.h>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -506,110 +503,6 @@ TEST_F(SettingsFolder, DeletesTheFileWhetherItIsThereOrNot) {
     DeleteSettingsFile(path_);
     DeleteSettingsFile("");
     EXPECT_TRUE(Names().empty());
-}
-
-TEST_F(SettingsFolder, KeepsTheOldFileWhenTheDiskIsFull) {
-    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
-    // A limit on the size of files cuts the writing off as a full disk does; in a process of its own, since
-    // the limit stays.
-    const pid_t child = ::fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{100, 100};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        Settings large;
-        large.output.assign(200'000, 'x');
-        ::_exit(WriteSettingsFile(path_, large) ? 1 : 0);
-    }
-    int status = -1;
-    ASSERT_EQ(::waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0) << "the failure must be reported";
-    EXPECT_EQ(ReadSettingsFile(path_), FullSettings());
-    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
-}
-
-TEST_F(SettingsFolder, LeavesNoLitterWhenTheFileCannotBeReplaced) {
-    fs::create_directories(fs::path(path_) / "in the way");
-    EXPECT_FALSE(WriteSettingsFile(path_, Settings{}));
-    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
-}
-
-TEST_F(SettingsFolder, CleansUpAfterAKilledWriter) {
-    std::ofstream(path_ + ".new") << "a part of what another process was writing";
-    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
-    EXPECT_EQ(ReadSettingsFile(path_), FullSettings());
-    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
-}
-
-TEST_F(SettingsFolder, FollowsALinkAndKeepsPermissions) {
-    const fs::path real = folder_ / "kept elsewhere";
-    std::ofstream(real) << kFactoryText;
-    fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
-    fs::create_symlink(real, path_);
-    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
-    EXPECT_TRUE(fs::is_symlink(path_));
-    EXPECT_EQ(ReadSettingsFile(real.string()), FullSettings());
-    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-}
-
-/// Two files that differ in every text, large enough for the writing to be met in the middle.
-Settings LargeSettings(char filler) {
-    Settings settings;
-    settings.firstDate = settings.dateDiff = settings.secondDate = std::string(10, filler);
-    settings.output.assign(300'000, filler);
-    return settings;
-}
-
-TEST_F(SettingsFolder, IsWholeWheneverTheWriterIsKilled) {
-    const Settings one = LargeSettings('a');
-    const Settings other = LargeSettings('b');
-    ASSERT_TRUE(WriteSettingsFile(path_, one));
-    int written = 0;
-    for (int kill = 0; kill < 60; ++kill) {
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            for (;;) {
-                WriteSettingsFile(path_, other);
-                WriteSettingsFile(path_, one);
-            }
-        }
-        ::usleep(static_cast<useconds_t>(500 + kill * 137));
-        ASSERT_EQ(::kill(child, SIGKILL), 0);
-        ASSERT_EQ(::waitpid(child, nullptr, 0), child);
-        const auto read = ReadSettingsFile(path_);
-        ASSERT_TRUE(read == one || read == other) << "killed for the " << kill + 1 << ". time";
-        if (read == other) ++written;
-    }
-    EXPECT_GT(written, 0) << "no writer got as far as replacing the file";
-    EXPECT_LE(Names().size(), 2U);
-}
-
-TEST_F(SettingsFolder, IsWholeWhenTwoInstancesSaveAtOnce) {
-    const Settings one = LargeSettings('a');
-    const Settings other = LargeSettings('b');
-    std::vector<pid_t> writers;
-    for (const Settings* settings : {&one, &other}) {
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0) {
-            bool good = true;
-            for (int round = 0; round < 50; ++round) {
-                good = WriteSettingsFile(path_, *settings) && good;
-                const auto read = ReadSettingsFile(path_);
-                good = good && (read == one || read == other);
-            }
-            ::_exit(good ? 0 : 1);
-        }
-        writers.push_back(child);
-    }
-    for (const pid_t writer : writers) {
-        int status = -1;
-        ASSERT_EQ(::waitpid(writer, &status, 0), writer);
-        EXPECT_EQ(status, 0);
-    }
-    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
 }
 
 }  // namespace

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/WebOpener.h"
+
+namespace calvoro {
+
+/// The desktop's own way to open an address.
+class QtWebOpener : public WebOpener {
+public:
+    /// Desktops that Qt knows take neither parameters nor a directory nor a window state; they are not used.
+    /// returns  33, or 31 when nothing on the system opens the address
+    int Open(std::string_view address, std::string_view parameters, std::string_view directory,
+             int windowState) override;
+};
+
+}  // namespace calvoro
