@@ -1,1 +1,143 @@
 #include "datetext/EuroDateText.h"
+
+#include <algorithm>
+
+#include "calendar/AnnusNovus.h"
+#include "calendar/DayNumber.h"
+#include "calendar/EuroDate.h"
+#include "datetext/Blanks.h"
+#include "datetext/DayNumberText.h"
+#include "datetext/Digits.h"
+#include "datetext/StrToDate.h"
+#include "datetext/Thousands.h"
+
+namespace calvoro {
+namespace {
+
+constexpr std::int32_t kLargestPlainYear = 9999;
+
+/// What remains of a typed date, and the counts that tell whether its shape can be a date's.
+struct KeptText {
+    std::string text;
+    std::size_t minuses = 0;
+    std::size_t separators = 0;
+};
+
+// Deliberate: characters that cannot be part of a date are dropped without a word, so that a date pasted
+// with its tag, its parentheses or its thousands separators reads.
+KeptText KeepDateCharacters(std::string_view text, char separator) {
+    KeptText kept;
+    for (const char c : text) {
+        if (!IsDigit(c) && c != '-' && c != separator) continue;
+        kept.text.push_back(c);
+        if (c == '-') ++kept.minuses;
+        if (c == separator) ++kept.separators;
+    }
+    return kept;
+}
+
+// Deliberate: with "-" as separator a third "-" is allowed anywhere; str_to_date finds out whether it is
+// the sign of the year.
+bool HasDateShape(const KeptText& kept, char separator) {
+    if (separator == '-') return kept.minuses == 2 || kept.minuses == 3;
+    return kept.minuses <= 1 && kept.separators == 2;
+}
+
+CalendarCode CodeForReading(CalendarNumber tag) {
+    switch (tag) {
+        case CalendarNumber::ARC: return CalendarCode::R;
+        case CalendarNumber::JC: return CalendarCode::J;
+        case CalendarNumber::AN: return CalendarCode::A;
+        case CalendarNumber::VLW: return CalendarCode::V;
+        case CalendarNumber::ISO: return CalendarCode::I;
+        case CalendarNumber::CE:
+        case CalendarNumber::JDN:
+        case CalendarNumber::ORD:
+        case CalendarNumber::LPW:
+        case CalendarNumber::LPM: return CalendarCode::G;
+    }
+    return CalendarCode::G;
+}
+
+/// The order of the fields: notations that always begin with the year have no month-first form.
+DateFormat FormatForReading(CalendarNumber tag, DateFormat dateFormat) {
+    const bool yearFirst = tag == CalendarNumber::AN || tag == CalendarNumber::VLW ||
+                           tag == CalendarNumber::ISO || tag == CalendarNumber::ARC;
+    return yearFirst && dateFormat == DateFormat::MDY ? DateFormat::YMD : dateFormat;
+}
+
+void AppendYear(std::string& text, const DateRecord& record, char thousandsSeparator) {
+    const bool plain = record.calendar == CalendarCode::A || thousandsSeparator == '\0' ||
+                       (record.year <= kLargestPlainYear && record.year >= -kLargestPlainYear);
+    if (plain) {
+        AppendNumber(text, record.year);
+    } else {
+        text += ThousandsText(record.year, thousandsSeparator);
+    }
+}
+
+/// A year that stands last: after a separator a minus sign would be unreadable, so it gets parentheses.
+void AppendLastYear(std::string& text, const DateRecord& record, char thousandsSeparator) {
+    if (record.year < 0) text.push_back('(');
+    AppendYear(text, record, thousandsSeparator);
+    if (record.year < 0) text.push_back(')');
+}
+
+std::string_view Suffix(CalendarCode code) {
+    if (code == CalendarCode::A) return " AN";
+    if (code == CalendarCode::J) return " JC";
+    if (code == CalendarCode::G) return " CE";
+    return "";
+}
+
+}  // namespace
+
+ParseStatus ParseDateText(std::string_view text, char separator, CalendarNumber tag, DateFormat dateFormat,
+                          DateRecord& record) {
+    if (tag == CalendarNumber::JDN) return ParseDayNumberDate(WithoutBlanks(text), separator, record);
+
+    const KeptText kept = KeepDateCharacters(text, separator);
+    if (!HasDateShape(kept, separator)) return ParseStatus::NotValid;
+
+    // Deliberate: the year that the record brings along is tested, and before the text is split. A zeroed
+    // record always passes; str_to_date tests the year of the text itself.
+    if (record.year > kMaxYearMagnitude || record.year < -kMaxYearMagnitude) return ParseStatus::OutOfRange;
+
+    const auto code = static_cast<std::int32_t>(CodeForReading(tag));
+    const auto order = static_cast<std::int32_t>(FormatForReading(tag, dateFormat));
+    const std::int32_t result = str_to_date(kept.text, order, record, code);
+    if (result == kStrToDateYearOutOfRange) return ParseStatus::OutOfRange;
+    if (result != kStrToDateOk) return ParseStatus::NotValid;
+
+    if (record.calendar == CalendarCode::A) {
+        annus_novus_date_to_jdn(record);
+    } else if (record.calendar != CalendarCode::R) {
+        euro_date_to_jdn(record);
+    }
+    return ParseStatus::Valid;
+}
+
+std::string FormatDateText(const DateRecord& record, DateFormat dateFormat, char separator,
+                           char thousandsSeparator, bool withSuffix) {
+    std::string text;
+    const bool annusNovus = record.calendar == CalendarCode::A;
+    if (annusNovus) separator = '-';
+    if (annusNovus || dateFormat == DateFormat::YMD) {
+        AppendYear(text, record, thousandsSeparator);
+        text.push_back(separator);
+        AppendNumber(text, record.month, 2);
+        text.push_back(separator);
+        AppendNumber(text, record.day, 2);
+    } else {
+        const bool dayFirst = dateFormat == DateFormat::DMY;
+        AppendNumber(text, dayFirst ? record.day : record.month, 2);
+        text.push_back(separator);
+        AppendNumber(text, dayFirst ? record.month : record.day, 2);
+        text.push_back(separator);
+        AppendLastYear(text, record, thousandsSeparator);
+    }
+    if (withSuffix) text += Suffix(record.calendar);
+    return text;
+}
+
+}  // namespace calvoro
