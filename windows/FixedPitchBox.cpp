@@ -1,0 +1,52 @@
+#include "windows/FixedPitchBox.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QFontMetrics>
+#include <QTextDocument>
+#include <algorithm>
+#include <cmath>
+
+namespace calvoro {
+namespace {
+
+constexpr int kLeastLines = 3;  // on a low screen the rest is scrolled
+
+}  // namespace
+
+void UseFixedPitchFont(QWidget& widget) {
+    QFont font;
+    font.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    widget.setFont(font);
+}
+
+FixedPitchBox::FixedPitchBox(int columns, int lines, QWidget* parent)
+    : QPlainTextEdit(parent), columns_(columns), lines_(lines) {
+    UseFixedPitchFont(*this);
+    setLineWrapMode(NoWrap);
+    setReadOnly(true);
+    setUndoRedoEnabled(false);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+}
+
+QSize FixedPitchBox::sizeHint() const {
+    return SizeFor(lines_);
+}
+
+QSize FixedPitchBox::minimumSizeHint() const {
+    return SizeFor(std::min(lines_, kLeastLines));
+}
+
+QSize FixedPitchBox::SizeFor(int lines) const {
+    const QFontMetricsF metrics(font());
+    const double around = 2 * (document()->documentMargin() + frameWidth());
+    // One more pixel each way for the caret behind the last column and for rounding of line heights.
+    const double width = columns_ * metrics.horizontalAdvance(QLatin1Char('0')) + around + 1;
+    const double height = lines * std::ceil(metrics.lineSpacing()) + around + 1;
+    return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
+}
+
+}  // namespace calvoro

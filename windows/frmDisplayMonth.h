@@ -1,0 +1,113 @@
+#pragma once
+
+// The month calendar window: one month of the Common Era or the Julian Calendar as text, on request with
+// the ISO week dates of its weeks below. Closing hides it.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWidget>
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+#include "calendar/CalendarNumber.h"
+#include "datetext/MonthText.h"
+#include "platform/Platform.h"
+#include "text/Texts.h"
+#include "windows/FixedPitchBox.h"
+
+namespace calvoro {
+
+class frmDisplayMonth : public QWidget {
+    Q_OBJECT
+
+public:
+    /// texts       its TextLanguage follows the interface's language whenever the window is activated
+    /// mainWindow  gets the focus back when this window is closed
+    /// formReady   false leaves the ISO controls' availability as it is
+    frmDisplayMonth(const Platform& platform, Texts& texts, QWidget& mainWindow,
+                    std::function<bool()> formReady);
+
+    /// Sets the controls without drawing, shows the window, near the main window when it was hidden, and
+    /// draws the month.
+    /// year      as plain digits; any other text is the user's to mend
+    /// month     1 to 12
+    /// calendar  CE or JC
+    void ShowMonth(std::string_view year, std::int32_t month, CalendarNumber calendar);
+
+    /// Draws the month that the controls tell. Does nothing while the window is hidden.
+    void DisplayMonth();
+
+    /// The options as the settings keep them. Setting them runs no click handler; a month that is shown is
+    /// drawn anew.
+    WeekStart GetWeekStart() const;
+    void SetWeekStart(WeekStart weekStart);
+    CalendarNumber GetCalendar() const;
+    void SetCalendar(CalendarNumber calendar);
+
+    /// Sets the captions in the language of the interface.
+    void SetLanguageDependentText();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildLayout();
+    void ConnectControls();
+    void OnActivated();
+    void FillMonths();
+    void UpdateMnemonics();
+
+    bool Draw();
+    void ShowIsoDates();
+    void UpdateIsoButton();
+    void OnShowHideISO();
+    void HideIsoWhen(bool condition);
+    void OnOptionsSet();
+    bool IsoPossible() const;
+    void SetIsoBoxShown(bool shown);
+
+    void OnDisplayNextMonth(int index);
+    void TrimYear();
+    void StepYear(int years);
+    void PleaseSpecifyYear();
+    void OnCopyToClipboard();
+    void OnClose();
+
+    MessageBoxes& boxes_;
+    Clipboard& clipboard_;
+    Texts& texts_;
+    QWidget& mainWindow_;
+    std::function<bool()> formReady_;
+
+    bool isoShown_ = false;
+    std::int16_t weekRows_ = 0;       // of the grid last drawn
+    std::int32_t firstShownJdn_ = 0;  // of the grid last drawn
+
+    QLabel* lblMonth;
+    QComboBox* cboMonths;
+    QLabel* lblYear;
+    QLineEdit* txbYear;
+    QPushButton* cmdDisplay;
+    FixedPitchBox* txbMonth;
+    QGroupBox* fraCalendar;
+    QRadioButton* optCommonEra;
+    QRadioButton* optJulian;
+    QGroupBox* fraFirstDayOfWeek;
+    QRadioButton* optSunday;
+    QRadioButton* optMonday;
+    std::array<QPushButton*, 2> cmdDisplayNextMonth;  // [0] next, [1] previous
+    QPushButton* cmdCopyToClipboard;
+    QPushButton* cmdShowHideISO;
+    QCheckBox* chkWithYear;
+    QPushButton* cmdClose;
+    FixedPitchBox* txbISODates;
+};
+
+}  // namespace calvoro
