@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "compute/ComputeWindow.h"
 #include "text/Texts.h"
 
 namespace calvoro {
@@ -32,5 +33,8 @@ std::string_view ComputeMessageText(ComputeMessage message, LanguageNumber langu
 
 /// Title of the boxes that show these messages: "Error!".
 std::string ErrorTitle(const Texts& texts);
+
+/// Shows a message in the language of the interface, under ErrorTitle.
+void ShowComputeMessage(ComputeMessage message, const Texts& texts, ComputeWindow& window);
 
 }  // namespace calvoro
