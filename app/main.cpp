@@ -1,0 +1,116 @@
+// The program's entry: answers what needs no display, refuses kindly where there is none, loads the texts,
+// shows the main window, and sees to it that every way of ending saves the settings.
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPointer>
+#include <QSessionManager>
+#include <QTranslator>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ConfiguredAddresses.h"
+#include "app/Arguments.h"
+#include "app/EndingSignals.h"
+#include "app/NoDisplay.h"
+#include "mainwindow/frmMain.h"
+#include "platform/Platform.h"
+#include "platform/SystemClock.h"
+#include "platform/qt/QtClipboard.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/QtSettingsPlace.h"
+#include "platform/qt/QtWebOpener.h"
+#include "platform/qt/SystemDigitGrouping.h"
+#include "text/ProgramText.h"
+
+namespace {
+
+using namespace calvoro;
+
+constexpr int kUsageError = 2;
+
+int Print(std::string_view text) {
+    std::fwrite(text.data(), 1, text.size(), stdout);
+    return std::fflush(stdout) == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int Refuse(const std::string& argument) {
+    std::fprintf(stderr, "calvoro: unknown option or missing value: '%s'; try 'calvoro --help'\n",
+                 argument.c_str());
+    return kUsageError;
+}
+
+/// The toolkit's own words, such as those on the buttons of a message box, in the system's language.
+void UseToolkitWords(QApplication& application) {
+    auto* const words = new QTranslator(&application);
+    if (words->load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(words);
+    }
+}
+
+/// Saves when Qt ends the process in the middle of the event loop, as it does when the display is gone.
+class SaveAtExit {
+public:
+    explicit SaveAtExit(frmMain* window) : window_(window) {}
+    ~SaveAtExit() {
+        if (window_) window_->QuitAndSave();
+    }
+    SaveAtExit(const SaveAtExit&) = delete;
+    SaveAtExit& operator=(const SaveAtExit&) = delete;
+
+private:
+    QPointer<frmMain> window_;
+};
+
+int ShowWindow(QApplication& application) {
+    QtMessageBoxes boxes;
+    QtClipboard clipboard;
+    const SystemClock clock;
+    QtWebOpener web;
+    QtSettingsPlace place;
+    const Platform platform{boxes, clipboard, clock, web, place, SystemDigitGrouping()};
+
+    const std::string failure =
+        LoadProgramText(QCoreApplication::applicationDirPath().toStdString(), "calvoro.dat");
+    if (!failure.empty()) {
+        boxes.Show(failure, "", MessageIcon::Critical);
+        return EXIT_FAILURE;
+    }
+
+    frmMain window(platform, ConfiguredAddresses());
+    const auto end = [&window] { window.QuitAndSave(); };
+    const EndingSignals endingSignals(end, nullptr);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, end, Qt::DirectConnection);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, end);
+    static const SaveAtExit saveAtExit(&window);
+    window.Start();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+    const ReadArguments read = ReadProgramArguments(arguments);
+    switch (read.request) {
+        case Request::Help: return Print(HelpMessage());
+        case Request::Version: return Print(std::string("calvoro ") + kProgramVersion + "\n");
+        case Request::Refuse: return Refuse(read.refused);
+        case Request::ShowWindow: break;
+    }
+
+    std::optional<NoDisplayGuard> guard(std::in_place);
+    QApplication application(argc, argv);
+    guard.reset();
+    QGuiApplication::setDesktopFileName(QStringLiteral("calvoro"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/calvoro.png")));
+    UseToolkitWords(application);
+    return ShowWindow(application);
+}
