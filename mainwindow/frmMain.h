@@ -6,7 +6,19 @@
 #include <QWidget>
 #include <string>
 
+#include "mainwindow/CalendarChange.h"
+#include "mainwindow/DateSpinners.h"
+#include "mainwindow/InputBoxes.h"
+#include "mainwindow/InputKeys.h"
+#include "mainwindow/MainComputeWindow.h"
+#include "mainwindow/MainControls.h"
+#include "mainwindow/MainState.h"
+#include "mainwindow/OutputBox.h"
+#include "mainwindow/ResultAnnouncer.h"
+#include "mainwindow/SecondaryWindows.h"
+#include "mainwindow/TodayLine.h"
 #include "mainwindow/WebAddresses.h"
+#include "mainwindow/WindowOptions.h"
 #include "platform/Platform.h"
 
 namespace calvoro {
@@ -17,7 +29,7 @@ class frmMain : public QWidget {
 public:
     /// Builds the window without showing it. The numbered texts must be loaded: one of them names the
     /// folder of the settings file.
-    /// platform  must outlive the window
+    /// platform  what it refers to must outlive the window
     frmMain(const Platform& platform, WebAddresses addresses);
 
     /// Captions, title, showing, settings, clock and today's date, in the order in which they depend on
@@ -27,16 +39,64 @@ public:
     /// Writes the settings, once however often it is called, and ends the program's event loop.
     void QuitAndSave();
 
+    /// Sets every caption from the texts in the language of the interface.
+    void SetLanguageDependentText();
+
+    /// Puts the focus where the next step is; the last step of nearly every click.
+    void SetTheFocus();
+
+    DateFormat UsersDateFormat() const;
+
+    /// The calendar chosen for a date.
+    /// which  1 first date, 2 second date
+    CalendarNumber GetCal(int which) const;
+
+    /// Fills a date box with today.
+    /// index  0 first date, 1 second date
+    void cmdToday_Click(int index);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void ConnectInputs();
+    void ConnectOptions();
+    void ConnectOutput();
+    void ConnectWindows();
+
+    void OnCompute();
+    bool AskWhichBoxToClear();
+    void OnDateFormat();
+    void OnUnit();
+    void OnHyphen();
+    void OnLanguage(int index);
+    void OnDisplayMonth();
+    void OnReset();
+    void OnOnlineDocumentation();
+
+    void ReadSettings();
     void WriteSettings();
+    void ApplyDefaultSettings();
+    void ApplySettings(const Settings& settings);
 
     Platform platform_;
     WebAddresses addresses_;
     std::string settingsFilePath_;
     bool saved_ = false;
+
+    MainControls controls_;
+    MainState state_;
+    WindowOptions options_;
+    SecondaryWindows windows_;
+    InputBoxes boxes_;
+    TodayLine todayLine_;
+    OutputBox output_;
+    MainComputeWindow computeWindow_;
+    CalendarChange calendarChange_;
+    DateSpinners spinners_;
+    InputKeys* inputKeys_;
+    ResultAnnouncer* announcer_;
 };
 
 }  // namespace calvoro

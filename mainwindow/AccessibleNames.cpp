@@ -1,0 +1,78 @@
+#include "mainwindow/AccessibleNames.h"
+
+#include <array>
+
+#include "mainwindow/QtText.h"
+
+namespace calvoro {
+namespace {
+
+struct BoxName {
+    QLineEdit* MainControls::*box;
+    TextId text;
+};
+constexpr std::array<BoxName, 3> kBoxes = {{
+    {&MainControls::txbFirstDate, TextId::FirstDate},
+    {&MainControls::txbDateDiff, TextId::DateDifference},
+    {&MainControls::txbSecondDate, TextId::SecondDate},
+}};
+
+// Buttons that share their caption with others, with the box that they belong to.
+struct ButtonName {
+    QPushButton* MainControls::*button;
+    TextId box;
+    TextId caption;
+};
+constexpr std::array<ButtonName, 6> kButtons = {{
+    {&MainControls::cmdToday0, TextId::FirstDate, TextId::Today},
+    {&MainControls::cmdToday1, TextId::SecondDate, TextId::Today},
+    {&MainControls::cmdClearFirstDate, TextId::FirstDate, TextId::Clear},
+    {&MainControls::cmdClearDateDiff, TextId::DateDifference, TextId::Clear},
+    {&MainControls::cmdClearSecondDate, TextId::SecondDate, TextId::Clear},
+    {&MainControls::cmdClearOutputWindow, TextId::OutputWindow, TextId::Clear},
+}};
+
+struct FrameName {
+    QFrame* MainControls::*frame;
+    TextId text;
+};
+constexpr std::array<FrameName, 4> kFrames = {{
+    {&MainControls::frmDateFormat, TextId::DateFormatCaption},
+    {&MainControls::frmDateSeparator, TextId::DateSeparatorCaption},
+    {&MainControls::Frame5, TextId::ThousandsSeparator},
+    {&MainControls::Frame6, TextId::DateDifference},
+}};
+
+}  // namespace
+
+void SetAccessibleNames(const MainControls& controls, const Texts& texts) {
+    const auto shown = [&texts](TextId id) { return ToQt(texts.Shown(id)); };
+    const auto joined = [](const QString& first, const QString& second) {
+        return first + QStringLiteral(": ") + second;
+    };
+
+    for (const BoxName& row : kBoxes) (controls.*row.box)->setAccessibleName(shown(row.text));
+    controls.txbOutput->setAccessibleName(shown(TextId::OutputWindow));
+    for (const ButtonName& row : kButtons) {
+        (controls.*row.button)->setAccessibleName(joined(shown(row.box), shown(row.caption)));
+    }
+
+    for (const FrameName& row : kFrames) (controls.*row.frame)->setAccessibleName(shown(row.text));
+    const QString calendar = shown(TextId::Calendar);
+    controls.Frame3->setAccessibleName(joined(shown(TextId::FirstDate), calendar));
+    controls.Frame4->setAccessibleName(joined(shown(TextId::SecondDate), calendar));
+
+    // The caption goes on in the label behind it.
+    controls.chkHyphen->setAccessibleName(shown(TextId::HyphenInOrdinalAnd) + QLatin1Char(' ') +
+                                          shown(TextId::InISOWeekDates));
+
+    const QString day = QLatin1Char(' ') + shown(TextId::Day);
+    for (const InputBox box : {InputBox::FirstDate, InputBox::SecondDate}) {
+        const QString date = controls.Box(box)->accessibleName();
+        controls.Spinner(box)->SetAccessibleNames(joined(date, QStringLiteral("+/- 1") + day),
+                                                  joined(date, QStringLiteral("+1") + day),
+                                                  joined(date, QStringLiteral("-1") + day));
+    }
+}
+
+}  // namespace calvoro

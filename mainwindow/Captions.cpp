@@ -1,0 +1,148 @@
+#include "mainwindow/Captions.h"
+
+#include <array>
+
+#include "mainwindow/AccessibleNames.h"
+#include "mainwindow/ControlTables.h"
+#include "mainwindow/QtText.h"
+#include "windows/Mnemonics.h"
+
+namespace calvoro {
+namespace {
+
+template <typename Control>
+struct CaptionRow {
+    Control* MainControls::*control;
+    TextId text;
+};
+
+constexpr std::array<CaptionRow<QLabel>, 7> kLabels = {{
+    {&MainControls::lblOr, TextId::Or},
+    {&MainControls::lblThisIsA0, TextId::ThisIsA},
+    {&MainControls::lblThisIsA1, TextId::ThisIsA},
+    {&MainControls::lblDateFormat, TextId::DateFormatCaption},
+    {&MainControls::lblDateSeparator, TextId::DateSeparatorCaption},
+    {&MainControls::lblThousandsSeparator, TextId::ThousandsSeparator},
+    {&MainControls::lblHyphen, TextId::InISOWeekDates},
+}};
+
+// The captions that carry a key. Labels come first: their keys lead to the boxes beside them.
+constexpr std::array<CaptionRow<QLabel>, 3> kLabelsWithKeys = {{
+    {&MainControls::lblFirstDate, TextId::FirstDate},
+    {&MainControls::lblDateDifference, TextId::DateDifference},
+    {&MainControls::lblSecondDate, TextId::SecondDate},
+}};
+constexpr std::array<CaptionRow<QPushButton>, 14> kButtons = {{
+    {&MainControls::cmdCompute, TextId::Compute},
+    {&MainControls::cmdToday0, TextId::Today},
+    {&MainControls::cmdToday1, TextId::Today},
+    {&MainControls::cmdClearFirstDate, TextId::Clear},
+    {&MainControls::cmdClearDateDiff, TextId::Clear},
+    {&MainControls::cmdClearSecondDate, TextId::Clear},
+    {&MainControls::cmdMoveSecondDateToFirst, TextId::SecondToFirst},
+    {&MainControls::cmdClearOutputWindow, TextId::Clear},
+    {&MainControls::cmdCopyToClipboard, TextId::CopyToClipboard},
+    {&MainControls::cmdEnlarge, TextId::Enlarge},
+    {&MainControls::cmdDisplayMonth, TextId::DisplayMonth},
+    {&MainControls::cmdHelp, TextId::Help},
+    {&MainControls::cmdReset, TextId::Reset},
+    {&MainControls::cmdQuit, TextId::Quit},
+}};
+constexpr std::array<CaptionRow<QCheckBox>, 5> kCheckBoxes = {{
+    {&MainControls::chkIncludeFirstDate, TextId::IncludeFirstDate},
+    {&MainControls::chkIncludeWeekends, TextId::CountWeekendDays},
+    {&MainControls::chkVerbose, TextId::Verbose},
+    {&MainControls::chkHyphen, TextId::HyphenInOrdinalAnd},
+    {&MainControls::chkSaveOutput, TextId::SaveResultsOnQuit},
+}};
+
+template <typename Rows, typename Action>
+void ForEachRow(const Rows& rows, const Action& action) {
+    for (const auto& row : rows) action(row);
+}
+
+void SetCaptionsWithKeys(const MainControls& controls, const Texts& texts) {
+    QStringList captions;
+    const auto collect = [&](const auto& row) { captions.push_back(ToQt(texts.Shown(row.text))); };
+    ForEachRow(kLabelsWithKeys, collect);
+    ForEachRow(kButtons, collect);
+    ForEachRow(kCheckBoxes, collect);
+
+    captions = WithMnemonics(captions);
+    const auto show = [&](const auto& row) { (controls.*row.control)->setText(captions.takeFirst()); };
+    ForEachRow(kLabelsWithKeys, show);
+    ForEachRow(kButtons, show);
+    ForEachRow(kCheckBoxes, show);
+}
+
+QString DateFormatCaption(const DateFormatOption& row, LanguageNumber language) {
+    return language == LanguageGerman ? ToQt(row.german) : ToQt(row.english).toLower();
+}
+
+void SetOptionCaptions(const MainControls& controls, const Texts& texts) {
+    for (int i = 0; const CalendarOption& row : kCalendarOptions) {
+        controls.firstCalendars->Option(i).setText(ToQt(texts.Shown(row.caption)));
+        controls.secondCalendars->Option(i).setText(ToQt(texts.Shown(row.caption)));
+        ++i;
+    }
+    for (int i = 0; const DateFormatOption& row : kDateFormatOptions) {
+        controls.dateFormats->Option(i++).setText(DateFormatCaption(row, texts.InterfaceLanguage));
+    }
+    for (int i = 0; const ThousandsOption& row : kThousandsOptions) {
+        const std::string_view caption = row.caption.empty() ? texts.Shown(TextId::None) : row.caption;
+        controls.thousandsSeparators->Option(i++).setText(ToQt(caption));
+    }
+    for (int i = 0; const UnitOption& row : kUnitOptions) {
+        controls.units->Option(i++).setText(ToQt(texts.Shown(row.caption)));
+    }
+    for (int i = 0; const LanguageOption& row : kLanguageOptions) {
+        controls.languages->Option(i++).setText(ToQt(row.caption));
+    }
+}
+
+void SetLinkCaptions(const MainControls& controls, const Texts& texts) {
+    controls.lblOnlineDocumentation->setText(texts.InterfaceLanguage == LanguageGerman
+                                                 ? QStringLiteral("Online-Dokumentation")
+                                                 : QStringLiteral("Online documentation"));
+    controls.lblVantorelSystems->setText(QStringLiteral("Vantorel Systems"));
+    const QString howToChange = ToQt(texts.Shown(TextId::ClickToChangeCalendar));
+    controls.lblTodaysDate->setToolTip(howToChange);
+    controls.lblWeekFromToday->setToolTip(howToChange);
+}
+
+}  // namespace
+
+void SetCaptions(const MainControls& controls, const Texts& texts) {
+    ForEachRow(kLabels,
+               [&](const auto& row) { (controls.*row.control)->setText(ToQt(texts.Shown(row.text))); });
+    SetCaptionsWithKeys(controls, texts);
+    SetOptionCaptions(controls, texts);
+    SetLinkCaptions(controls, texts);
+    SetAccessibleNames(controls, texts);
+}
+
+void SetSeparatorCaptions(const MainControls& controls, DateFormat dateFormat) {
+    const auto& example =
+        kDateFormatOptions[static_cast<std::size_t>(RowOf(kDateFormatOptions, dateFormat))].example;
+    for (int i = 0; const DateSeparatorOption& row : kDateSeparatorOptions) {
+        std::string caption(example[0]);
+        caption.append(1, row.value).append(example[1]).append(1, row.value).append(example[2]);
+        controls.dateSeparators->Option(i++).setText(ToQt(caption));
+    }
+}
+
+void SetOrdinalCaptions(const MainControls& controls, const Texts& texts, bool hyphen) {
+    const TextId example = hyphen ? TextId::OrdinalExampleHyphenated : TextId::OrdinalExampleCompact;
+    std::string caption(texts.Shown(TextId::OrdinalDate));
+    caption.append(" (").append(texts.Shown(example)).append(")");
+    const int ordinal = RowOf(kCalendarOptions, CalendarNumber::ORD);
+    controls.firstCalendars->Option(ordinal).setText(ToQt(caption));
+    controls.secondCalendars->Option(ordinal).setText(ToQt(caption));
+}
+
+void SetExampleCaptions(const MainControls& controls, const Texts& texts, const TextOptions& options) {
+    SetSeparatorCaptions(controls, options.dateFormat);
+    SetOrdinalCaptions(controls, texts, options.hyphen);
+}
+
+}  // namespace calvoro

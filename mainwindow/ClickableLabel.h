@@ -1,0 +1,38 @@
+#pragma once
+
+// A label that is pressed like a button, with the mouse or, when it has the focus, with the keyboard. A
+// screen reader meets it as a button or a link.
+
+#include <QLabel>
+
+namespace calvoro {
+
+class ClickableLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit ClickableLabel(QWidget* parent);
+
+    /// Underlined, in the palette's link colour, with the pointing hand.
+    void ShowAsLink();
+    bool IsLink() const { return link_; }
+
+Q_SIGNALS:
+    /// Left or middle mouse button; Space, Enter or Right on the keyboard.
+    void Pressed();
+
+    /// Right mouse button; Left, or Shift with Space or Enter, on the keyboard.
+    void PressedBackward();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool link_ = false;
+};
+
+}  // namespace calvoro

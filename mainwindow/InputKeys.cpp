@@ -1,0 +1,87 @@
+#include "mainwindow/InputKeys.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "datetext/KeyFilter.h"
+
+namespace calvoro {
+namespace {
+
+// The toolkit's commands that the filters know by the code of their control character.
+constexpr std::array<std::pair<QKeySequence::StandardKey, int>, 3> kFilteredCommands = {{
+    {QKeySequence::Copy, 3},
+    {QKeySequence::Paste, 22},
+    {QKeySequence::Cut, 24},
+}};
+constexpr int kBackspaceCode = 8;
+
+// Whether a line edit would insert the text of a key.
+bool TypesText(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier || modifiers == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        return false;
+    }
+    return !event.text().isEmpty() && event.text().at(0).isPrint();
+}
+
+}  // namespace
+
+InputKeys::InputKeys(QWidget* window, const MainControls& controls, const WindowOptions& options)
+    : QObject(window), controls_(controls), options_(options) {
+    for (QLineEdit* box : {controls.txbFirstDate, controls.txbDateDiff, controls.txbSecondDate}) {
+        box->installEventFilter(this);
+    }
+}
+
+bool InputKeys::eventFilter(QObject* watched, QEvent* event) {
+    const InputBox box = watched == controls_.txbFirstDate  ? InputBox::FirstDate
+                         : watched == controls_.txbDateDiff ? InputBox::Difference
+                                                            : InputBox::SecondDate;
+    if (event->type() == QEvent::KeyPress) return HandleKey(box, *static_cast<QKeyEvent*>(event));
+    // An input method hands over what was typed as a finished text.
+    if (event->type() == QEvent::InputMethod) {
+        return !MayBeTyped(box, static_cast<QInputMethodEvent*>(event)->commitString());
+    }
+    return false;
+}
+
+// returns whether the key is swallowed
+bool InputKeys::HandleKey(InputBox box, const QKeyEvent& event) {
+    const int key = event.key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        Q_EMIT EnterPressed();
+        return true;
+    }
+    const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plain && box != InputBox::Difference && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+        Q_EMIT StepPressed(box, key == Qt::Key_Up ? 1 : -1);
+        return true;
+    }
+    for (const auto& [command, code] : kFilteredCommands) {
+        if (event.matches(command)) return !MayBeTyped(box, code);
+    }
+    if (key == Qt::Key_Backspace) return !MayBeTyped(box, kBackspaceCode);
+    return TypesText(event) && !MayBeTyped(box, event.text());
+}
+
+bool InputKeys::MayBeTyped(InputBox box, int key) const {
+    // Deliberate: a selection that the key would replace counts in the length.
+    const int length = static_cast<int>(controls_.Box(box)->text().size());
+    const TextOptions options = options_.ReadTextOptions();
+    if (box == InputBox::Difference) {
+        return NumberKeyFilter(key, length, kMaxInputLength, options.thousandsSeparator);
+    }
+    const bool isWeekDate = options_.GetCal(box) == CalendarNumber::ISO;
+    return DateKeyFilter(key, length, kMaxInputLength, options.dateSeparator, isWeekDate);
+}
+
+bool InputKeys::MayBeTyped(InputBox box, const QString& text) const {
+    return std::all_of(text.begin(), text.end(),
+                       [this, box](QChar character) { return MayBeTyped(box, int{character.unicode()}); });
+}
+
+}  // namespace calvoro

@@ -1,0 +1,121 @@
+#include "mainwindow/MainControls.h"
+
+#include <cassert>
+
+#include "mainwindow/ControlTables.h"
+#include "mainwindow/QtText.h"
+
+namespace calvoro {
+namespace {
+
+template <typename Control>
+Control* Make(QWidget* window, const char* name) {
+    auto* control = new Control(window);
+    control->setObjectName(QLatin1String(name));
+    return control;
+}
+
+QPushButton* MakeButton(QWidget* window, const char* name) {
+    auto* button = Make<QPushButton>(window, name);
+    button->setAutoDefault(true);  // Enter presses the button that has the focus
+    return button;
+}
+
+template <typename Table, typename Row>
+OptionGroup* MakeOptions(QFrame* frame, const Table& table, std::string_view Row::*name) {
+    QStringList names;
+    for (const Row& row : table) names.push_back(ToQt(row.*name));
+    return new OptionGroup(frame, names);
+}
+
+}  // namespace
+
+MainControls::MainControls(QWidget* window)
+    : Frame3(Make<QFrame>(window, "Frame3")),
+      Frame4(Make<QFrame>(window, "Frame4")),
+      Frame5(Make<QFrame>(window, "Frame5")),
+      Frame6(Make<QFrame>(window, "Frame6")),
+      frmDateFormat(Make<QFrame>(window, "frmDateFormat")),
+      frmDateSeparator(Make<QFrame>(window, "frmDateSeparator")),
+      frmLanguage(Make<QFrame>(window, "frmLanguage")),
+      lblTodaysDate(Make<ClickableLabel>(window, "lblTodaysDate")),
+      lblWeekFromToday(Make<ClickableLabel>(window, "lblWeekFromToday")),
+      languages(MakeOptions(frmLanguage, kLanguageOptions, &LanguageOption::name)),
+      lblFirstDate(Make<QLabel>(window, "lblFirstDate")),
+      lblDateDifference(Make<QLabel>(window, "lblDateDifference")),
+      lblOr(Make<QLabel>(window, "lblOr")),
+      lblSecondDate(Make<QLabel>(window, "lblSecondDate")),
+      txbFirstDate(Make<QLineEdit>(window, "txbFirstDate")),
+      txbDateDiff(Make<QLineEdit>(window, "txbDateDiff")),
+      txbSecondDate(Make<QLineEdit>(window, "txbSecondDate")),
+      VScroll0(Make<SpinArrows>(window, "VScroll0")),
+      VScroll1(Make<SpinArrows>(window, "VScroll1")),
+      cmdToday0(MakeButton(window, "cmdToday0")),
+      cmdToday1(MakeButton(window, "cmdToday1")),
+      cmdClearFirstDate(MakeButton(window, "cmdClearFirstDate")),
+      cmdClearDateDiff(MakeButton(window, "cmdClearDateDiff")),
+      cmdClearSecondDate(MakeButton(window, "cmdClearSecondDate")),
+      cmdMoveSecondDateToFirst(MakeButton(window, "cmdMoveSecondDateToFirst")),
+      lblThisIsA0(Make<QLabel>(window, "lblThisIsA0")),
+      lblThisIsA1(Make<QLabel>(window, "lblThisIsA1")),
+      firstCalendars(MakeOptions(Frame3, kCalendarOptions, &CalendarOption::firstName)),
+      secondCalendars(MakeOptions(Frame4, kCalendarOptions, &CalendarOption::secondName)),
+      units(MakeOptions(Frame6, kUnitOptions, &UnitOption::name)),
+      chkIncludeFirstDate(Make<QCheckBox>(window, "chkIncludeFirstDate")),
+      chkIncludeWeekends(Make<QCheckBox>(window, "chkIncludeWeekends")),
+      cmdCompute(MakeButton(window, "cmdCompute")),
+      lblDateFormat(Make<QLabel>(window, "lblDateFormat")),
+      lblDateSeparator(Make<QLabel>(window, "lblDateSeparator")),
+      lblThousandsSeparator(Make<QLabel>(window, "lblThousandsSeparator")),
+      dateFormats(MakeOptions(frmDateFormat, kDateFormatOptions, &DateFormatOption::name)),
+      dateSeparators(MakeOptions(frmDateSeparator, kDateSeparatorOptions, &DateSeparatorOption::name)),
+      thousandsSeparators(MakeOptions(Frame5, kThousandsOptions, &ThousandsOption::name)),
+      chkHyphen(Make<QCheckBox>(window, "chkHyphen")),
+      lblHyphen(Make<QLabel>(window, "lblHyphen")),
+      txbOutput(Make<OutputTextBox>(window, "txbOutput")),
+      cmdClearOutputWindow(MakeButton(window, "cmdClearOutputWindow")),
+      cmdCopyToClipboard(MakeButton(window, "cmdCopyToClipboard")),
+      cmdEnlarge(MakeButton(window, "cmdEnlarge")),
+      chkVerbose(Make<QCheckBox>(window, "chkVerbose")),
+      chkSaveOutput(Make<QCheckBox>(window, "chkSaveOutput")),
+      cmdDisplayMonth(MakeButton(window, "cmdDisplayMonth")),
+      cmdHelp(MakeButton(window, "cmdHelp")),
+      cmdReset(MakeButton(window, "cmdReset")),
+      cmdQuit(MakeButton(window, "cmdQuit")),
+      lblOnlineDocumentation(Make<ClickableLabel>(window, "lblOnlineDocumentation")),
+      lblVantorelSystems(Make<ClickableLabel>(window, "lblVantorelSystems")),
+      Clock(new QTimer(window)) {
+    Clock->setObjectName(QStringLiteral("Clock"));
+    Clock->setInterval(1000);
+
+    lblFirstDate->setBuddy(txbFirstDate);
+    lblDateDifference->setBuddy(txbDateDiff);
+    lblSecondDate->setBuddy(txbSecondDate);
+
+    lblOnlineDocumentation->ShowAsLink();
+    lblVantorelSystems->ShowAsLink();
+
+    chkSaveOutput->setEnabled(false);  // until start-up switches it on
+}
+
+QLineEdit* MainControls::Box(InputBox box) const {
+    switch (box) {
+        case InputBox::FirstDate: return txbFirstDate;
+        case InputBox::Difference: return txbDateDiff;
+        case InputBox::SecondDate: return txbSecondDate;
+    }
+    assert(false);
+    return nullptr;
+}
+
+OptionGroup* MainControls::Calendars(InputBox box) const {
+    assert(box != InputBox::Difference);
+    return box == InputBox::FirstDate ? firstCalendars : secondCalendars;
+}
+
+SpinArrows* MainControls::Spinner(InputBox box) const {
+    assert(box != InputBox::Difference);
+    return box == InputBox::FirstDate ? VScroll0 : VScroll1;
+}
+
+}  // namespace calvoro

@@ -1,0 +1,77 @@
+#pragma once
+
+// The windows that the main window opens. Each is made when it is first asked for, so that start-up does
+// not wait for it, and lives as long as the main window.
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "calendar/CalendarNumber.h"
+#include "compute/ComputeWindow.h"
+#include "mainwindow/MainState.h"
+#include "mainwindow/Settings.h"
+#include "mainwindow/WebAddresses.h"
+#include "platform/Platform.h"
+
+class QWidget;
+
+namespace calvoro {
+
+class frmClearOneTextBox;
+class frmDisplayMonth;
+class frmHelp;
+class frmLargeDisplay;
+class frmPopUp;
+
+class SecondaryWindows {
+public:
+    SecondaryWindows(QWidget& mainWindow, const Platform& platform, const WebAddresses& addresses,
+                     MainState& state);
+    ~SecondaryWindows();
+
+    SecondaryWindows(const SecondaryWindows&) = delete;
+    SecondaryWindows& operator=(const SecondaryWindows&) = delete;
+
+    /// The note that something was copied; returns when it is gone.
+    void TellCopied();
+
+    /// Shows the output, not empty and with CR LF line ends, in the enlarged window.
+    void ShowEnlarged(std::string_view output);
+
+    void ShowHelp();
+
+    /// Shows a month.
+    /// month     1 to 12
+    /// calendar  CE or JC
+    void ShowMonth(std::int32_t year, std::int32_t month, CalendarNumber calendar);
+
+    /// Asks which box to empty; nothing when the user cancels.
+    std::optional<InputBox> AskWhichBoxToClear();
+
+    /// The month window's options, also while there is no month window.
+    void ApplyMonthOptions(const Settings& settings);
+    void CollectMonthOptions(Settings& settings) const;
+
+    /// Captions of the windows that do not set theirs themselves.
+    void SetLanguageDependentText();
+
+private:
+    QWidget& mainWindow_;
+    const Platform& platform_;
+    const WebAddresses& addresses_;
+    MainState& state_;
+
+    // What the month window will start with.
+    WeekStart monthWeekStart_ = Settings().monthWeekStart;
+    CalendarNumber monthCalendar_ = Settings().monthCalendar;
+
+    std::unique_ptr<frmClearOneTextBox> clearOne_;
+    std::unique_ptr<frmDisplayMonth> month_;
+    std::unique_ptr<frmHelp> help_;
+    std::unique_ptr<frmLargeDisplay> large_;
+    std::unique_ptr<frmPopUp> popUp_;
+};
+
+}  // namespace calvoro

@@ -1,0 +1,92 @@
+#include "mainwindow/frmClearOneTextBox.h"
+
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "mainwindow/QtText.h"
+#include "platform/Twips.h"
+#include "windows/Mnemonics.h"
+#include "windows/Placement.h"
+
+namespace calvoro {
+namespace {
+
+// From the main window's top left corner.
+constexpr int kTopOffsetTwips = 2850;
+constexpr int kLeftOffsetTwips = 50;
+
+QRadioButton* MakeOption(QWidget* dialog, const char* name) {
+    auto* option = new QRadioButton(dialog);
+    option->setObjectName(QLatin1String(name));
+    return option;
+}
+
+}  // namespace
+
+frmClearOneTextBox::frmClearOneTextBox(QWidget& mainWindow, const Texts& texts)
+    : QDialog(&mainWindow),
+      mainWindow_(mainWindow),
+      texts_(texts),
+      optClearFirstDate(MakeOption(this, "optClearFirstDate")),
+      optClearDateDiff(MakeOption(this, "optClearDateDiff")),
+      optClearSecondDate(MakeOption(this, "optClearSecondDate")),
+      optCancel(MakeOption(this, "optCancel")),
+      cmdContinue(new QPushButton(this)) {
+    setObjectName(QStringLiteral("frmClearOneTextBox"));
+    setModal(true);
+    cmdContinue->setObjectName(QStringLiteral("cmdContinue"));
+    cmdContinue->setDefault(true);
+    optClearDateDiff->setChecked(true);
+
+    auto* column = new QVBoxLayout(this);
+    for (QRadioButton* option : {optClearFirstDate, optClearDateDiff, optClearSecondDate, optCancel}) {
+        column->addWidget(option);
+    }
+    column->addStretch();
+    column->addWidget(cmdContinue, 0, Qt::AlignRight);
+
+    connect(cmdContinue, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+std::optional<InputBox> frmClearOneTextBox::Ask() {
+    if (optCancel->isChecked()) optClearDateDiff->setChecked(true);
+    SetCaptions();
+    Place();
+    for (QRadioButton* option : {optClearFirstDate, optClearDateDiff, optClearSecondDate}) {
+        if (option->isChecked()) option->setFocus();
+    }
+    exec();
+    if (optClearFirstDate->isChecked()) return InputBox::FirstDate;
+    if (optClearDateDiff->isChecked()) return InputBox::Difference;
+    if (optClearSecondDate->isChecked()) return InputBox::SecondDate;
+    return std::nullopt;
+}
+
+void frmClearOneTextBox::reject() {
+    optCancel->setChecked(true);
+    QDialog::reject();
+}
+
+void frmClearOneTextBox::SetCaptions() {
+    const auto shown = [this](TextId id) { return ToQt(texts_.Shown(id)); };
+    setWindowTitle(shown(TextId::Clear));
+    const QStringList captions =
+        WithMnemonics({shown(TextId::FirstDate), shown(TextId::DateDifference), shown(TextId::SecondDate),
+                       shown(TextId::CancelThisOperation), shown(TextId::Continue)});
+    optClearFirstDate->setText(captions[0]);
+    optClearDateDiff->setText(captions[1]);
+    optClearSecondDate->setText(captions[2]);
+    optCancel->setText(captions[3]);
+    cmdContinue->setText(captions[4]);
+}
+
+void frmClearOneTextBox::Place() {
+    adjustSize();
+    const QPoint wanted = mainWindow_.frameGeometry().topLeft() +
+                          QPoint(TwipsToPixels(kLeftOffsetTwips), TwipsToPixels(kTopOffsetTwips));
+    move(KeptOnScreen(wanted, size(), mainWindow_.screen()->availableGeometry()));
+}
+
+}  // namespace calvoro
