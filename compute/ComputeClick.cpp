@@ -1,20 +1,13 @@
 #include "compute/ComputeClick.h"
 
-#include <string_view>
-
 #include "compute/ComputeInDays.h"
 #include "compute/ComputeInMonths.h"
+#include "datetext/Blanks.h"
 
 namespace calvoro {
 namespace {
 
-// Blanks only: a tab stays and is judged by the readers.
-std::string_view TrimBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
+// Removes blanks only: a tab stays and is judged by the readers.
 std::string TrimBox(InputBox box, ComputeWindow& window) {
     const std::string text = window.InputText(box);
     std::string trimmed(TrimBlanks(text));

@@ -6,7 +6,7 @@ namespace calvoro {
 namespace {
 
 struct NamedTextRow {
-    TextId id;
+    TextId id{};
     std::array<std::string_view, 3> texts;  // by language number
 };
 
