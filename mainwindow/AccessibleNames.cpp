@@ -19,7 +19,7 @@ constexpr std::array<BoxName, 3> kBoxes = {{
 
 // Buttons that share their caption with others, with the box that they belong to.
 struct ButtonName {
-    QPushButton* MainControls::*button;
+    CaptionButton* MainControls::*button;
     TextId box;
     TextId caption;
 };

@@ -16,14 +16,13 @@ struct CaptionRow {
     TextId text;
 };
 
-constexpr std::array<CaptionRow<QLabel>, 7> kLabels = {{
+constexpr std::array<CaptionRow<QLabel>, 6> kLabels = {{
     {&MainControls::lblOr, TextId::Or},
     {&MainControls::lblThisIsA0, TextId::ThisIsA},
     {&MainControls::lblThisIsA1, TextId::ThisIsA},
     {&MainControls::lblDateFormat, TextId::DateFormatCaption},
     {&MainControls::lblDateSeparator, TextId::DateSeparatorCaption},
     {&MainControls::lblThousandsSeparator, TextId::ThousandsSeparator},
-    {&MainControls::lblHyphen, TextId::InISOWeekDates},
 }};
 
 // The captions that carry a key. Labels come first: their keys lead to the boxes beside them.
@@ -32,7 +31,7 @@ constexpr std::array<CaptionRow<QLabel>, 3> kLabelsWithKeys = {{
     {&MainControls::lblDateDifference, TextId::DateDifference},
     {&MainControls::lblSecondDate, TextId::SecondDate},
 }};
-constexpr std::array<CaptionRow<QPushButton>, 14> kButtons = {{
+constexpr std::array<CaptionRow<CaptionButton>, 14> kButtons = {{
     {&MainControls::cmdCompute, TextId::Compute},
     {&MainControls::cmdToday0, TextId::Today},
     {&MainControls::cmdToday1, TextId::Today},
@@ -100,11 +99,12 @@ void SetOptionCaptions(const MainControls& controls, const Texts& texts) {
     }
 }
 
-void SetLinkCaptions(const MainControls& controls, const Texts& texts) {
+void SetClickableCaptions(const MainControls& controls, const Texts& texts) {
     controls.lblOnlineDocumentation->setText(texts.InterfaceLanguage == LanguageGerman
                                                  ? QStringLiteral("Online-Dokumentation")
                                                  : QStringLiteral("Online documentation"));
     controls.lblVantorelSystems->setText(QStringLiteral("Vantorel Systems"));
+    controls.lblHyphen->setText(ToQt(texts.Shown(TextId::InISOWeekDates)));
     const QString howToChange = ToQt(texts.Shown(TextId::ClickToChangeCalendar));
     controls.lblTodaysDate->setToolTip(howToChange);
     controls.lblWeekFromToday->setToolTip(howToChange);
@@ -117,7 +117,7 @@ void SetCaptions(const MainControls& controls, const Texts& texts) {
                [&](const auto& row) { (controls.*row.control)->setText(ToQt(texts.Shown(row.text))); });
     SetCaptionsWithKeys(controls, texts);
     SetOptionCaptions(controls, texts);
-    SetLinkCaptions(controls, texts);
+    SetClickableCaptions(controls, texts);
     SetAccessibleNames(controls, texts);
 }
 

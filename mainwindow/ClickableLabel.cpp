@@ -14,7 +14,7 @@ constexpr int kFocusMargin = 2;  // pixels between the text and the focus frame
 class AccessibleClickableLabel : public QAccessibleWidget {
 public:
     explicit AccessibleClickableLabel(ClickableLabel* label)
-        : QAccessibleWidget(label, label->IsLink() ? QAccessible::Link : QAccessible::Button) {}
+        : QAccessibleWidget(label, label->AccessibleRole()) {}
 
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Name ? Label()->text() : QAccessibleWidget::text(kind);
@@ -53,12 +53,18 @@ ClickableLabel::ClickableLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void ClickableLabel::ShowAsLink() {
-    link_ = true;
+    role_ = QAccessible::Link;
     setForegroundRole(QPalette::Link);
     setCursor(Qt::PointingHandCursor);
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);
+}
+
+void ClickableLabel::ContinueCaption() {
+    role_ = QAccessible::StaticText;
+    setFocusPolicy(Qt::NoFocus);
+    setMargin(0);
 }
 
 void ClickableLabel::mousePressEvent(QMouseEvent* event) {

@@ -3,6 +3,7 @@
 // A label that is pressed like a button, with the mouse or, when it has the focus, with the keyboard. A
 // screen reader meets it as a button or a link.
 
+#include <QAccessible>
 #include <QLabel>
 
 namespace calvoro {
@@ -15,7 +16,11 @@ public:
 
     /// Underlined, in the palette's link colour, with the pointing hand.
     void ShowAsLink();
-    bool IsLink() const { return link_; }
+
+    /// The second half of the caption of the control in front of it, which the keyboard reaches already.
+    void ContinueCaption();
+
+    QAccessible::Role AccessibleRole() const { return role_; }
 
 Q_SIGNALS:
     /// Left or middle mouse button; Space, Enter or Right on the keyboard.
@@ -32,7 +37,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool link_ = false;
+    QAccessible::Role role_ = QAccessible::Button;
 };
 
 }  // namespace calvoro

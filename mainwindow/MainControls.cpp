@@ -15,12 +15,6 @@ Control* Make(QWidget* window, const char* name) {
     return control;
 }
 
-QPushButton* MakeButton(QWidget* window, const char* name) {
-    auto* button = Make<QPushButton>(window, name);
-    button->setAutoDefault(true);  // Enter presses the button that has the focus
-    return button;
-}
-
 template <typename Table, typename Row>
 OptionGroup* MakeOptions(QFrame* frame, const Table& table, std::string_view Row::*name) {
     QStringList names;
@@ -50,12 +44,12 @@ MainControls::MainControls(QWidget* window)
       txbSecondDate(Make<QLineEdit>(window, "txbSecondDate")),
       VScroll0(Make<SpinArrows>(window, "VScroll0")),
       VScroll1(Make<SpinArrows>(window, "VScroll1")),
-      cmdToday0(MakeButton(window, "cmdToday0")),
-      cmdToday1(MakeButton(window, "cmdToday1")),
-      cmdClearFirstDate(MakeButton(window, "cmdClearFirstDate")),
-      cmdClearDateDiff(MakeButton(window, "cmdClearDateDiff")),
-      cmdClearSecondDate(MakeButton(window, "cmdClearSecondDate")),
-      cmdMoveSecondDateToFirst(MakeButton(window, "cmdMoveSecondDateToFirst")),
+      cmdToday0(Make<CaptionButton>(window, "cmdToday0")),
+      cmdToday1(Make<CaptionButton>(window, "cmdToday1")),
+      cmdClearFirstDate(Make<CaptionButton>(window, "cmdClearFirstDate")),
+      cmdClearDateDiff(Make<CaptionButton>(window, "cmdClearDateDiff")),
+      cmdClearSecondDate(Make<CaptionButton>(window, "cmdClearSecondDate")),
+      cmdMoveSecondDateToFirst(Make<CaptionButton>(window, "cmdMoveSecondDateToFirst")),
       lblThisIsA0(Make<QLabel>(window, "lblThisIsA0")),
       lblThisIsA1(Make<QLabel>(window, "lblThisIsA1")),
       firstCalendars(MakeOptions(Frame3, kCalendarOptions, &CalendarOption::firstName)),
@@ -63,7 +57,7 @@ MainControls::MainControls(QWidget* window)
       units(MakeOptions(Frame6, kUnitOptions, &UnitOption::name)),
       chkIncludeFirstDate(Make<QCheckBox>(window, "chkIncludeFirstDate")),
       chkIncludeWeekends(Make<QCheckBox>(window, "chkIncludeWeekends")),
-      cmdCompute(MakeButton(window, "cmdCompute")),
+      cmdCompute(Make<CaptionButton>(window, "cmdCompute")),
       lblDateFormat(Make<QLabel>(window, "lblDateFormat")),
       lblDateSeparator(Make<QLabel>(window, "lblDateSeparator")),
       lblThousandsSeparator(Make<QLabel>(window, "lblThousandsSeparator")),
@@ -71,17 +65,17 @@ MainControls::MainControls(QWidget* window)
       dateSeparators(MakeOptions(frmDateSeparator, kDateSeparatorOptions, &DateSeparatorOption::name)),
       thousandsSeparators(MakeOptions(Frame5, kThousandsOptions, &ThousandsOption::name)),
       chkHyphen(Make<QCheckBox>(window, "chkHyphen")),
-      lblHyphen(Make<QLabel>(window, "lblHyphen")),
+      lblHyphen(Make<ClickableLabel>(window, "lblHyphen")),
       txbOutput(Make<OutputTextBox>(window, "txbOutput")),
-      cmdClearOutputWindow(MakeButton(window, "cmdClearOutputWindow")),
-      cmdCopyToClipboard(MakeButton(window, "cmdCopyToClipboard")),
-      cmdEnlarge(MakeButton(window, "cmdEnlarge")),
+      cmdClearOutputWindow(Make<CaptionButton>(window, "cmdClearOutputWindow")),
+      cmdCopyToClipboard(Make<CaptionButton>(window, "cmdCopyToClipboard")),
+      cmdEnlarge(Make<CaptionButton>(window, "cmdEnlarge")),
       chkVerbose(Make<QCheckBox>(window, "chkVerbose")),
       chkSaveOutput(Make<QCheckBox>(window, "chkSaveOutput")),
-      cmdDisplayMonth(MakeButton(window, "cmdDisplayMonth")),
-      cmdHelp(MakeButton(window, "cmdHelp")),
-      cmdReset(MakeButton(window, "cmdReset")),
-      cmdQuit(MakeButton(window, "cmdQuit")),
+      cmdDisplayMonth(Make<CaptionButton>(window, "cmdDisplayMonth")),
+      cmdHelp(Make<CaptionButton>(window, "cmdHelp")),
+      cmdReset(Make<CaptionButton>(window, "cmdReset")),
+      cmdQuit(Make<CaptionButton>(window, "cmdQuit")),
       lblOnlineDocumentation(Make<ClickableLabel>(window, "lblOnlineDocumentation")),
       lblVantorelSystems(Make<ClickableLabel>(window, "lblVantorelSystems")),
       Clock(new QTimer(window)) {
@@ -92,6 +86,7 @@ MainControls::MainControls(QWidget* window)
     lblDateDifference->setBuddy(txbDateDiff);
     lblSecondDate->setBuddy(txbSecondDate);
 
+    lblHyphen->ContinueCaption();
     lblOnlineDocumentation->ShowAsLink();
     lblVantorelSystems->ShowAsLink();
 

@@ -7,10 +7,10 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTimer>
 
 #include "compute/ComputeWindow.h"
+#include "mainwindow/CaptionButton.h"
 #include "mainwindow/ClickableLabel.h"
 #include "mainwindow/OptionGroup.h"
 #include "mainwindow/OutputTextBox.h"
@@ -56,12 +56,12 @@ struct MainControls {
     SpinArrows* VScroll0;
     SpinArrows* VScroll1;
 
-    QPushButton* cmdToday0;
-    QPushButton* cmdToday1;
-    QPushButton* cmdClearFirstDate;
-    QPushButton* cmdClearDateDiff;
-    QPushButton* cmdClearSecondDate;
-    QPushButton* cmdMoveSecondDateToFirst;
+    CaptionButton* cmdToday0;
+    CaptionButton* cmdToday1;
+    CaptionButton* cmdClearFirstDate;
+    CaptionButton* cmdClearDateDiff;
+    CaptionButton* cmdClearSecondDate;
+    CaptionButton* cmdMoveSecondDateToFirst;
 
     QLabel* lblThisIsA0;
     QLabel* lblThisIsA1;
@@ -70,7 +70,7 @@ struct MainControls {
     OptionGroup* units;
     QCheckBox* chkIncludeFirstDate;
     QCheckBox* chkIncludeWeekends;
-    QPushButton* cmdCompute;
+    CaptionButton* cmdCompute;
 
     QLabel* lblDateFormat;
     QLabel* lblDateSeparator;
@@ -79,19 +79,19 @@ struct MainControls {
     OptionGroup* dateSeparators;
     OptionGroup* thousandsSeparators;
     QCheckBox* chkHyphen;
-    QLabel* lblHyphen;
+    ClickableLabel* lblHyphen;
 
     OutputTextBox* txbOutput;
-    QPushButton* cmdClearOutputWindow;
-    QPushButton* cmdCopyToClipboard;
-    QPushButton* cmdEnlarge;
+    CaptionButton* cmdClearOutputWindow;
+    CaptionButton* cmdCopyToClipboard;
+    CaptionButton* cmdEnlarge;
     QCheckBox* chkVerbose;
     QCheckBox* chkSaveOutput;
 
-    QPushButton* cmdDisplayMonth;
-    QPushButton* cmdHelp;
-    QPushButton* cmdReset;
-    QPushButton* cmdQuit;
+    CaptionButton* cmdDisplayMonth;
+    CaptionButton* cmdHelp;
+    CaptionButton* cmdReset;
+    CaptionButton* cmdQuit;
     ClickableLabel* lblOnlineDocumentation;
     ClickableLabel* lblVantorelSystems;
 

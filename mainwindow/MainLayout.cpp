@@ -24,17 +24,24 @@ void FillColumn(QFrame* frame, const OptionGroup& options) {
     for (QAbstractButton* option : options.buttons()) column->addWidget(option);
 }
 
-void FillRow(QFrame* frame, const OptionGroup& options) {
+QHBoxLayout* FillRow(QFrame* frame, const OptionGroup& options) {
     auto* row = new QHBoxLayout(frame);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(kOptionSpacing);
     for (QAbstractButton* option : options.buttons()) row->addWidget(option);
-    row->addStretch();
+    return row;
+}
+
+// Options in columns of one width, so that two such rows, one above the other, line up.
+void FillEqualColumns(QFrame* frame, const OptionGroup& options) {
+    QHBoxLayout* row = FillRow(frame, options);
+    for (int i = 0; i < row->count(); ++i) row->setStretch(i, 1);
 }
 
 QFrame* Line(QWidget* window) {
     auto* line = new QFrame(window);
-    line->setFrameStyle(QFrame::HLine | QFrame::Sunken);
+    line->setFrameStyle(QFrame::HLine | QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
     return line;
 }
 
@@ -69,60 +76,73 @@ QLayout* DifferenceColumn(const MainControls& c) {
     return column;
 }
 
-// The three inputs side by side, the difference between the dates.
-QLayout* InputGrid(const MainControls& c) {
-    enum Column { First, Gap, Difference, Or, Second };
+QLayout* DateFormatGrid(const MainControls& c) {
+    FillEqualColumns(c.frmDateFormat, *c.dateFormats);
+    FillEqualColumns(c.frmDateSeparator, *c.dateSeparators);
+    enum Column { Label, Options };
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(kOptionSpacing);
+    grid->setColumnStretch(Options, 1);
+    grid->addWidget(c.lblDateFormat, 0, Label);
+    grid->addWidget(c.frmDateFormat, 0, Options);
+    grid->addWidget(c.lblDateSeparator, 1, Label);
+    grid->addWidget(c.frmDateSeparator, 1, Options);
+    return grid;
+}
+
+QLayout* NumberFormatColumn(const MainControls& c) {
+    FillRow(c.Frame5, *c.thousandsSeparators);
+    QHBoxLayout* thousands = Row({c.lblThousandsSeparator, c.Frame5});
+    thousands->setSpacing(kOptionSpacing);
+    thousands->addStretch();
+    QHBoxLayout* hyphen = Row({c.chkHyphen, c.lblHyphen});
+    hyphen->setSpacing(0);  // one sentence in two controls
+    hyphen->addStretch();
+
+    auto* column = new QVBoxLayout;
+    column->addLayout(thousands);
+    column->addLayout(hyphen);
+    return column;
+}
+
+// The three inputs side by side, the difference between the dates, and below them how dates are written.
+QLayout* InputGrid(QWidget* window, const MainControls& c) {
+    enum Column { First, Gap, Difference, Or, Second, ColumnCount };
+    enum GridRow { Labels, Boxes, Buttons, Kinds, Options, Rule, Formats };
     FillColumn(c.Frame3, *c.firstCalendars);
     FillColumn(c.Frame4, *c.secondCalendars);
-    FillRow(c.Frame6, *c.units);
+    FillRow(c.Frame6, *c.units)->addStretch();
 
     auto* grid = new QGridLayout;
     grid->setColumnMinimumWidth(Gap, kColumnGap);
     grid->setColumnMinimumWidth(Or, kColumnGap);
     for (const Column column : {First, Difference, Second}) grid->setColumnStretch(column, 1);
 
-    grid->addWidget(c.lblFirstDate, 0, First);
-    grid->addWidget(c.lblDateDifference, 0, Difference);
-    grid->addWidget(c.lblSecondDate, 0, Second);
+    grid->addWidget(c.lblFirstDate, Labels, First);
+    grid->addWidget(c.lblDateDifference, Labels, Difference);
+    grid->addWidget(c.lblSecondDate, Labels, Second);
 
-    grid->addLayout(DateBoxRow(c.txbFirstDate, c.VScroll0), 1, First);
-    grid->addWidget(c.txbDateDiff, 1, Difference);
-    grid->addWidget(c.lblOr, 1, Or, Qt::AlignCenter);
-    grid->addLayout(DateBoxRow(c.txbSecondDate, c.VScroll1), 1, Second);
+    grid->addLayout(DateBoxRow(c.txbFirstDate, c.VScroll0), Boxes, First);
+    grid->addWidget(c.txbDateDiff, Boxes, Difference);
+    grid->addWidget(c.lblOr, Boxes, Or, Qt::AlignCenter);
+    grid->addLayout(DateBoxRow(c.txbSecondDate, c.VScroll1), Boxes, Second);
 
-    grid->addLayout(ButtonRow({c.cmdToday0, c.cmdClearFirstDate}), 2, First);
-    grid->addLayout(ButtonRow({c.cmdClearDateDiff}), 2, Difference);
-    grid->addLayout(ButtonRow({c.cmdToday1, c.cmdClearSecondDate, c.cmdMoveSecondDateToFirst}), 2, Second);
+    grid->addLayout(ButtonRow({c.cmdToday0, c.cmdClearFirstDate}), Buttons, First);
+    grid->addLayout(ButtonRow({c.cmdClearDateDiff}), Buttons, Difference);
+    grid->addLayout(ButtonRow({c.cmdToday1, c.cmdClearSecondDate, c.cmdMoveSecondDateToFirst}), Buttons,
+                    Second);
 
-    grid->addWidget(c.lblThisIsA0, 3, First);
-    grid->addWidget(c.Frame6, 3, Difference);
-    grid->addWidget(c.lblThisIsA1, 3, Second);
+    grid->addWidget(c.lblThisIsA0, Kinds, First);
+    grid->addWidget(c.Frame6, Kinds, Difference);
+    grid->addWidget(c.lblThisIsA1, Kinds, Second);
 
-    grid->addWidget(c.Frame3, 4, First);
-    grid->addLayout(DifferenceColumn(c), 4, Difference);
-    grid->addWidget(c.Frame4, 4, Second);
-    return grid;
-}
+    grid->addWidget(c.Frame3, Options, First);
+    grid->addLayout(DifferenceColumn(c), Options, Difference);
+    grid->addWidget(c.Frame4, Options, Second);
 
-QLayout* FormatGrid(const MainControls& c) {
-    FillRow(c.frmDateFormat, *c.dateFormats);
-    FillRow(c.frmDateSeparator, *c.dateSeparators);
-    FillRow(c.Frame5, *c.thousandsSeparators);
-
-    enum Column { Label, Options, Gap, OtherLabel, OtherOptions };
-    auto* grid = new QGridLayout;
-    grid->setColumnMinimumWidth(Gap, kColumnGap);
-    grid->setColumnStretch(Gap, 1);
-    grid->addWidget(c.lblDateFormat, 0, Label);
-    grid->addWidget(c.frmDateFormat, 0, Options);
-    grid->addWidget(c.lblThousandsSeparator, 0, OtherLabel);
-    grid->addWidget(c.Frame5, 0, OtherOptions);
-    grid->addWidget(c.lblDateSeparator, 1, Label);
-    grid->addWidget(c.frmDateSeparator, 1, Options);
-    QHBoxLayout* hyphen = Row({c.chkHyphen, c.lblHyphen});
-    hyphen->setSpacing(4);
-    hyphen->addStretch();
-    grid->addLayout(hyphen, 1, OtherLabel, 1, 2);
+    grid->addWidget(Line(window), Rule, First, 1, ColumnCount);
+    grid->addLayout(DateFormatGrid(c), Formats, First, 1, Second);
+    grid->addLayout(NumberFormatColumn(c), Formats, Second);
     return grid;
 }
 
@@ -190,9 +210,7 @@ void ArrangeControls(QWidget* window, const MainControls& controls) {
     auto* page = new QVBoxLayout(window);
     page->addLayout(TodayRow(controls));
     page->addWidget(Line(window));
-    page->addLayout(InputGrid(controls));
-    page->addWidget(Line(window));
-    page->addLayout(FormatGrid(controls));
+    page->addLayout(InputGrid(window, controls));
     page->addWidget(controls.txbOutput, 1);
     page->addLayout(OutputButtons(controls));
     page->addLayout(WindowButtons(controls));

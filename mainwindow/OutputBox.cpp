@@ -9,7 +9,7 @@ namespace calvoro {
 namespace {
 
 struct Threshold {
-    QPushButton* MainControls::*button;
+    CaptionButton* MainControls::*button;
     int length;  // characters from which the button is enabled
 };
 constexpr std::array<Threshold, 3> kThresholds = {{

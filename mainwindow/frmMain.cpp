@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QShortcut>
 #include <utility>
 
@@ -94,6 +95,7 @@ void frmMain::ConnectOptions() {
         connect(box, &QCheckBox::clicked, this, &frmMain::SetTheFocus);
     }
     connect(controls_.chkHyphen, &QCheckBox::clicked, this, &frmMain::OnHyphen);
+    connect(controls_.lblHyphen, &ClickableLabel::Pressed, controls_.chkHyphen, &QCheckBox::click);
 }
 
 void frmMain::ConnectOutput() {
@@ -122,6 +124,7 @@ void frmMain::Start() {
     SetLanguageDependentText();
     output_.DisableButtons();
     setWindowTitle(windowTitle() + kVersionInTitle);
+    resize(FirstSize());
     show();
     controls_.txbFirstDate->setFocus();
     ReadSettings();
@@ -131,6 +134,14 @@ void frmMain::Start() {
     state_.FormReady = true;
     todayLine_.Refresh();
     state_.texts.TextLanguage = LanguageEnglish;
+}
+
+// Wide enough for a result line with its breakdown, and no larger than the screen.
+QSize frmMain::FirstSize() const {
+    constexpr int kCharactersInResultLine = 120;
+    const int width = fontMetrics().averageCharWidth() * kCharactersInResultLine;
+    const QSize screenSize = screen()->availableSize();
+    return sizeHint().expandedTo({width, 0}).boundedTo(screenSize);
 }
 
 void frmMain::QuitAndSave() {

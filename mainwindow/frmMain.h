@@ -60,6 +60,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QSize FirstSize() const;
     void ConnectInputs();
     void ConnectOptions();
     void ConnectOutput();
