@@ -1,3 +1,5 @@
-int main() {
-    return 2;
+#include "cli/CommandLine.h"
+
+int main(int argc, char** argv) {
+    return calvoro::RunCommandLine(argc, argv);
 }

@@ -1,0 +1,108 @@
+#include "cli/MonthCommand.h"
+
+#include <unistd.h>
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+#include "calendar/CheckedInt.h"
+#include "cli/Arguments.h"
+#include "cli/Diagnostics.h"
+#include "cli/ExitStatus.h"
+#include "cli/HelpTexts.h"
+#include "cli/LineEnds.h"
+#include "cli/OutputStream.h"
+#include "cli/QuotedText.h"
+#include "cli/Usage.h"
+#include "datetext/MonthText.h"
+#include "platform/SystemClock.h"
+#include "text/BuiltInProgramTexts.h"
+#include "text/DateNames.h"
+#include "text/NamedTexts.h"
+#include "text/ProgramText.h"
+#include "text/ProgramTextFile.h"
+
+namespace calvoro {
+namespace {
+
+constexpr std::int16_t kIsoHeadingText = 13;
+
+enum class MonthStatus { Valid, NotValid, OutOfRange };
+
+/// A month of a calendar's year.
+struct YearMonth {
+    std::int32_t year = 0;
+    std::int32_t month = 1;  // 1 to 12
+};
+
+bool ReadWhole(std::string_view text, std::int32_t& number, std::errc& error) {
+    const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
+    error = status;
+    return status != std::errc::invalid_argument && end == text.data() + text.size();
+}
+
+// "2024-09", "-44-3": the last "-" separates.
+MonthStatus ReadYearMonth(std::string_view text, YearMonth& result) {
+    const std::size_t separator = text.rfind('-');
+    if (separator == std::string_view::npos) return MonthStatus::NotValid;
+    const std::string_view month = text.substr(separator + 1);
+    std::errc yearError{};
+    std::errc monthError{};
+    if (month.size() > 2 || !ReadWhole(month, result.month, monthError)) return MonthStatus::NotValid;
+    if (!ReadWhole(text.substr(0, separator), result.year, yearError)) return MonthStatus::NotValid;
+    if (result.month < 1 || result.month > 12) return MonthStatus::NotValid;
+    return yearError == std::errc() ? MonthStatus::Valid : MonthStatus::OutOfRange;
+}
+
+/// throws  ArithmeticOverflow for a year that cannot be shown
+std::string MonthPage(const YearMonth& shown, const MonthArguments& arguments) {
+    const WeekdayWords weekdays = ShownWeekdayNames(arguments.language);
+    const MonthGrid grid =
+        DrawMonth(shown.year, shown.month, arguments.calendar, arguments.weekStart, weekdays);
+    std::string isoHeading;
+    std::string isoDates;
+    if (arguments.iso) {
+        LoadProgramTextsFromMemory(BuiltInProgramTexts());
+        isoHeading = GetProgramText(kIsoHeadingText, arguments.language);
+        isoDates = DrawIsoWeekDates(grid.firstShownJdn, grid.weekRows, arguments.withYear, weekdays);
+    }
+    const TextId calendarName =
+        arguments.calendar == CalendarCode::J ? TextId::JulianCalendar : TextId::CommonEraCalendar;
+    return CopiedMonthText(ShownMonthName(arguments.language, shown.month - 1), std::to_string(shown.year),
+                           ShownText(calendarName, arguments.language), grid.text, isoHeading, isoDates);
+}
+
+}  // namespace
+
+int RunMonth(const std::vector<std::string>& words) {
+    MonthArguments arguments;
+    const ArgumentsOutcome outcome = ReadMonthArguments(words, arguments);
+    if (!outcome.Runs()) return AnswerUsage(outcome, "month", kMonthHelp);
+
+    Diagnostics diagnostics(STDERR_FILENO);
+    YearMonth shown;
+    MonthStatus status = MonthStatus::Valid;
+    if (arguments.yearMonth) {
+        status = ReadYearMonth(*arguments.yearMonth, shown);
+    } else {
+        const LocalDate today = SystemClock().Today();
+        shown = {today.year, today.month};
+    }
+    if (status == MonthStatus::Valid) {
+        try {
+            OutputStream output(STDOUT_FILENO);
+            output.Append(WithLineFeeds(MonthPage(shown, arguments)));
+            output.Append('\n');
+            return FinishOutput(output, kExitAllGood, diagnostics);
+        } catch (const ArithmeticOverflow&) {
+            status = MonthStatus::OutOfRange;
+        }
+    }
+    const std::string_view reason = status == MonthStatus::NotValid ? "not a month: " : "out of range: ";
+    diagnostics.Print("argument:1: " + std::string(reason) + QuotedText(arguments.yearMonth.value_or("")));
+    return kExitRefused;
+}
+
+}  // namespace calvoro

@@ -1,0 +1,56 @@
+#include "cli/TodayCommand.h"
+
+#include <unistd.h>
+
+#include <cstdint>
+
+#include "calendar/Today.h"
+#include "cli/Arguments.h"
+#include "cli/Diagnostics.h"
+#include "cli/ExitStatus.h"
+#include "cli/HelpTexts.h"
+#include "cli/OutputStream.h"
+#include "cli/Usage.h"
+#include "datetext/AnyNotation.h"
+#include "datetext/TextOptions.h"
+#include "datetext/TodayText.h"
+#include "platform/SystemClock.h"
+#include "text/DateNames.h"
+#include "text/NamedTexts.h"
+
+namespace calvoro {
+namespace {
+
+void AppendLabels(std::int32_t todayJdn, CalendarNumber calendar, LanguageNumber language,
+                  OutputStream& output) {
+    const TextOptions options;
+    LabelWords words{ShownText(TextId::TodayIs, language), ShownWeekdayNames(language),
+                     language == LanguageGerman};
+    output.Append(TodayLabel(todayJdn, calendar, options, words));
+    output.Append('\n');
+    words.phrase = ShownText(TextId::AWeekFromTodayIs, language);
+    output.Append(TodayLabel(todayJdn + 7, calendar, options, words));
+    output.Append('\n');
+}
+
+}  // namespace
+
+int RunToday(const std::vector<std::string>& words) {
+    TodayArguments arguments;
+    const ArgumentsOutcome outcome = ReadTodayArguments(words, arguments);
+    if (!outcome.Runs()) return AnswerUsage(outcome, "today", kTodayHelp);
+
+    OutputStream output(STDOUT_FILENO);
+    const std::int32_t todayJdn = TodayJdn(arguments.today ? *arguments.today : SystemClock().Today());
+    if (arguments.all) {
+        for (const Notation& notation : Notations()) {
+            AppendLabels(todayJdn, notation.number, arguments.language, output);
+        }
+    } else {
+        AppendLabels(todayJdn, arguments.calendar, arguments.language, output);
+    }
+    Diagnostics diagnostics(STDERR_FILENO);
+    return FinishOutput(output, kExitAllGood, diagnostics);
+}
+
+}  // namespace calvoro
