@@ -1,11 +1,13 @@
 #pragma once
 
 // Common Era and Julian dates to day numbers and back. Nothing is validated here: the readers do that
-// before a date arrives.
+// before a date arrives. A month outside 1 to 12 gives some day number or ArithmeticOverflow, no worse.
 
 #include <cstdint>
 
+#include "calendar/CheckedInt.h"
 #include "calendar/DateRecord.h"
+#include "calendar/EuroFormula.h"
 
 namespace calvoro {
 
@@ -13,11 +15,23 @@ namespace calvoro {
 /// stored in the record's jdn as well.
 /// record  month 1 to 12, day from 1; any year whose day number fits 32 bits
 /// throws  ArithmeticOverflow when the day number does not fit
-std::int32_t euro_date_to_jdn(DateRecord& record);
+inline std::int32_t euro_date_to_jdn(DateRecord& record) {
+    record.jdn = NarrowToInt32(record.calendar == CalendarCode::J
+                                   ? formula::JulianDayNumber(record.year, record.month, record.day)
+                                   : formula::CommonEraDayNumber(record.year, record.month, record.day));
+    return record.jdn;
+}
 
 /// Fills year, month and day of the record's day number in the record's calendar (J: Julian; any other
 /// code: Common Era). Exact for every 32-bit day number.
-void jdn_to_euro_date(DateRecord& record);
+inline void jdn_to_euro_date(DateRecord& record) {
+    const formula::YearMonthDay date = record.calendar == CalendarCode::J
+                                           ? formula::JulianDate(record.jdn)
+                                           : formula::CommonEraDate(record.jdn);
+    record.year = date.year;
+    record.month = date.month;
+    record.day = date.day;
+}
 
 /// Day number of `later` minus day number of `earlier`, each computed from year, month, day and calendar.
 /// status  set to 1 when a record cannot be converted (codes A, V, I, R; the result is then 0), to 2 when

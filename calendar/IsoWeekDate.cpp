@@ -1,7 +1,7 @@
 #include "calendar/IsoWeekDate.h"
 
 #include "calendar/CheckedInt.h"
-#include "calendar/EuroFormula.h"
+#include "calendar/FloorDivision.h"
 
 namespace calvoro {
 
@@ -10,19 +10,15 @@ namespace {
 /// The Monday that begins week 1, which is the week of 4 January, not yet tested for 32 bits.
 std::int64_t WeekOneMonday(std::int32_t year) {
     using namespace formula;
-    // Day 0 of this count is a Monday, 1 January 0001, whole cycles of 400 years back; a cycle is whole
-    // weeks.
-    static_assert(kDaysInCommonEraCycle % 7 == 0);
-    const std::int64_t january4 =
-        DaysBeforeCommonEraYear(static_cast<std::uint64_t>(year + kShiftYears - 1)) + 3;
-    return january4 - january4 % 7 - kJanuaryShift;
+    // Monday 1 January 0001 is day 0 of the count.
+    const std::int64_t january4 = DaysBeforeCommonEraYear(std::int64_t{year} - 1) + 3;
+    return january4 - FloorRemainder(january4, 7) + kCommonEraJanuary;
 }
 
-/// Counts the years before a year that is not below 1 by their shift of the weekday; for other years the
-/// number is negative.
-std::int64_t WeekdayShift(std::int64_t year) {
-    const auto floorDivide = [](std::int64_t a, std::int64_t b) { return a / b - (a % b < 0 ? 1 : 0); };
-    return year + floorDivide(year, 4) - floorDivide(year, 100) + floorDivide(year, 400);
+/// A number that grows with the year as the weekday of 31 December moves on: divided by 7 it leaves 4 for a
+/// Thursday, and so for the year before it 3 for a Wednesday. Negative below year 0.
+std::int64_t WeekdayOfLastDay(std::int64_t year) {
+    return year + FloorDivide(year, 4) - FloorDivide(year, 100) + FloorDivide(year, 400);
 }
 
 }  // namespace
@@ -31,24 +27,13 @@ std::int32_t IsoWeekOneStart(std::int32_t year) {
     return NarrowToInt32(WeekOneMonday(year));
 }
 
-void JdnToIsoWeekDate(IsoWeekDate& date) {
-    using namespace formula;
-    const auto days = static_cast<std::uint64_t>(date.jdn + kJanuaryShift);
-    const std::uint64_t week = days / 7;
-    // A week belongs to the year of its Thursday, and the Thursday's week of the year is the week's.
-    const YearAndDay thursday = SplitCommonEra(7 * week + 3);
-    date.year = static_cast<std::int32_t>(static_cast<std::int64_t>(thursday.year) + 1 - kShiftYears);
-    date.week = static_cast<std::int32_t>(thursday.day / 7 + 1);
-    date.day = static_cast<std::int32_t>(days - 7 * week + 1);
-}
-
 void IsoWeekDateToJdn(IsoWeekDate& date) {
     date.jdn = NarrowToInt32(WeekOneMonday(date.year) + 7 * (std::int64_t{date.week} - 1) + date.day - 1);
 }
 
 bool HasWeek53(std::int32_t year) {
-    // Deliberate: the remainder takes the sign of the number, so it is never 4 or 3 for years below 1.
-    return WeekdayShift(year) % 7 == 4 || WeekdayShift(std::int64_t{year} - 1) % 7 == 3;
+    // Deliberate: the remainder takes the sign of the number, so no year below 1 passes.
+    return WeekdayOfLastDay(year) % 7 == 4 || WeekdayOfLastDay(std::int64_t{year} - 1) % 7 == 3;
 }
 
 void IsoDifference(const IsoWeekDate& first, const IsoWeekDate& second, std::int32_t& years,

@@ -4,6 +4,9 @@
 
 #include <cstdint>
 
+#include "calendar/EuroFormula.h"
+#include "calendar/WeekFormula.h"
+
 namespace calvoro {
 
 struct IsoWeekDate {
@@ -24,7 +27,17 @@ static_assert(sizeof(IsoWeekDate) == 20, "five 32-bit fields");
 std::int32_t IsoWeekOneStart(std::int32_t year);
 
 /// Fills year, week and day from the record's jdn. Exact for every 32-bit day number.
-void JdnToIsoWeekDate(IsoWeekDate& date);
+inline void JdnToIsoWeekDate(IsoWeekDate& date) {
+    using namespace formula;
+    static_assert(kDaysInCommonEraCycle % 7 == 0, "the shift keeps day 0 a Monday");
+    const std::uint64_t days = ShiftedDays(date.jdn, kCommonEraJanuary, kDaysInCommonEraCycle);
+    const std::uint32_t dayFromMonday = RemainderBy7(days);
+    // A week belongs to the year of its Thursday, and is there as far on as the Thursday.
+    const YearAndDay thursday = SplitCommonEra(days - dayFromMonday + 3);
+    date.year = Unshifted(thursday.year, 1);
+    date.week = static_cast<std::int32_t>(WholeWeeks(thursday.day) + 1);
+    date.day = static_cast<std::int32_t>(dayFromMonday + 1);
+}
 
 /// Sets jdn from year, week and day, without validation.
 /// throws  ArithmeticOverflow

@@ -1,25 +1,37 @@
 #include "calendar/LeapWeekDate.h"
 
 #include <array>
+#include <cstddef>
 
 #include "calendar/CheckedInt.h"
+#include "calendar/FloorDivision.h"
 
 namespace calvoro {
 
 namespace {
 
-// 400 years are 20871 weeks; this many cycles bring every 32-bit year above 0.
-constexpr std::int64_t kShiftCycles = 5'400'000;
-constexpr std::int64_t kShiftYears = 400 * kShiftCycles;
-constexpr std::int64_t kEpoch = 1'721'419;
-constexpr std::int64_t kShift = 146'097 * kShiftCycles - kEpoch;
-
 constexpr std::int64_t kWeeksInQuarter = 13;  // 5 + 4 + 4
 constexpr std::int64_t kWeeksInYear = 4 * kWeeksInQuarter;
 
-// Weeks before each month; month 0 stands for the month before January, of which nothing is counted.
+// Weeks before each month; before month 0 there is nothing to count either.
 constexpr std::array<std::int16_t, 13> kWeeksBeforeMonth{0, 0, 5, 9, 13, 18, 22, 26, 31, 35, 39, 44, 48};
 static_assert(kWeeksBeforeMonth[12] + 4 == kWeeksInYear);
+
+struct WeekOfMonth {
+    std::int64_t month = 1;
+    std::int64_t week = 1;  // of the month
+};
+
+/// The month of a week of an ordinary year. A week after the last one goes on in a month 13, which is as
+/// long as January, and so on; a week before the first one is counted back from January.
+WeekOfMonth MonthOfWeek(std::int64_t week) {
+    if (week < 1) return {1, week};
+    const std::int64_t quarter = (week - 1) / kWeeksInQuarter;
+    const std::int64_t weekOfQuarter = week - quarter * kWeeksInQuarter;
+    const std::int64_t monthOfQuarter = weekOfQuarter > 9 ? 3 : weekOfQuarter > 5 ? 2 : 1;
+    return {3 * quarter + monthOfQuarter,
+            weekOfQuarter - kWeeksBeforeMonth[static_cast<std::size_t>(monthOfQuarter)]};
+}
 
 }  // namespace
 
@@ -41,41 +53,23 @@ std::int16_t ValidateWeekForm(LeapWeekDate& date) {
 
 std::int32_t WeekFormToJdn(LeapWeekDate& date) {
     if (ValidateWeekForm(date) < 0) return date.status;
-    // The leap years among the years 1 to n are floor((71 n + 203) / 400).
-    const std::int64_t yearsBefore = date.year + kShiftYears - 1;
-    const std::int64_t weeksBefore =
-        kWeeksInYear * yearsBefore + (71 * yearsBefore + 203) / 400 + date.week - 1;
-    date.jdn = NarrowToInt32(7 * weeksBefore + date.weekday - 1 - kShift);
+    // Of the years 1 to n, floor((71 n + 203) / 400) are leap years.
+    const std::int64_t yearsBefore = std::int64_t{date.year} - 1;
+    const std::int64_t leapWeeksBefore = FloorDivide(71 * yearsBefore + 203, 400);
+    const std::int64_t weeksBefore = kWeeksInYear * yearsBefore + leapWeeksBefore + date.week - 1;
+    date.jdn = NarrowToInt32(kLeapWeekEpoch + 7 * weeksBefore + date.weekday - 1);
     return date.jdn;
-}
-
-void JdnToWeekForm(LeapWeekDate& date) {
-    // The weeks before year n + 1 are floor((20871 n + 203) / 400); week w, counted from the epoch, then
-    // lies in year floor((400 w + 196) / 20871) + 1, and the remainder holds its place in the year.
-    const auto days = static_cast<std::uint64_t>(date.jdn + kShift);
-    const std::uint64_t scaled = 400 * (days / 7) + 196;
-    date.year = static_cast<std::int32_t>(static_cast<std::int64_t>(scaled / 20'871) + 1 - kShiftYears);
-    date.week = static_cast<std::int16_t>(scaled % 20'871 / 400 + 1);
-    date.weekday = static_cast<std::int16_t>(days % 7 + 1);
 }
 
 bool WeekFormToMonthForm(LeapWeekDate& date) {
     if (ValidateWeekForm(date) < 0) return false;
-    std::int64_t week = date.week - 1;  // from 0; negative weeks count back from January
-    std::int64_t leapWeek = 0;
-    if (week >= kWeeksInYear && IsLeapWeekYear(date.year)) {
-        // From the leap week on, everything is one week later than in an ordinary year.
-        leapWeek = week == kWeeksInYear ? 4 : 0;
-        week -= 1;
+    WeekOfMonth place = MonthOfWeek(date.week);
+    if (date.week > kWeeksInYear && IsLeapWeekYear(date.year)) {
+        // The leap week is December's fifth; whatever follows it comes a week later than in other years.
+        place = date.week == kWeeksInYear + 1 ? WeekOfMonth{12, 5} : MonthOfWeek(date.week - 1);
     }
-    std::int64_t quarter = week < 0 ? 0 : week / kWeeksInQuarter;
-    std::int64_t weekOfQuarter = week - quarter * kWeeksInQuarter;
-    const std::int64_t monthOfQuarter = weekOfQuarter < 5 ? 0 : weekOfQuarter < 9 ? 1 : 2;
-    std::int64_t weekOfMonth =
-        weekOfQuarter - kWeeksBeforeMonth[static_cast<std::size_t>(monthOfQuarter + 1)];
-    if (leapWeek != 0) weekOfMonth = leapWeek;
-    date.month = NarrowToInt16(3 * quarter + monthOfQuarter + 1);
-    date.day = NarrowToInt16(7 * weekOfMonth + date.weekday);
+    date.month = NarrowToInt16(place.month);
+    date.day = NarrowToInt16(7 * (place.week - 1) + date.weekday);
     return true;
 }
 
@@ -89,9 +83,10 @@ bool MonthFormToWeekForm(LeapWeekDate& date) {
         date.status = kLeapWeekBadDay;
         return false;
     }
-    const int dayFromZero = date.day - 1;
-    date.week = static_cast<std::int16_t>(kWeeksBeforeMonth[static_cast<std::size_t>(date.month)] +
-                                          dayFromZero / 7 + 1);
+    // Day 0 counts as weekday 0 of the month's first week: both divisions round towards zero.
+    const std::int32_t dayFromZero = date.day - 1;
+    const std::int32_t weeksBefore = kWeeksBeforeMonth[static_cast<std::size_t>(date.month)];
+    date.week = static_cast<std::int16_t>(weeksBefore + dayFromZero / 7 + 1);
     date.weekday = static_cast<std::int16_t>(dayFromZero % 7 + 1);
     date.status = kLeapWeekOk;
     return true;
@@ -103,8 +98,7 @@ void JdnToLpm(LeapWeekDate& date) {
 }
 
 std::int32_t LpmToJdn(LeapWeekDate& date) {
-    if (!MonthFormToWeekForm(date)) return 0;
-    return WeekFormToJdn(date);
+    return MonthFormToWeekForm(date) ? WeekFormToJdn(date) : 0;
 }
 
 }  // namespace calvoro

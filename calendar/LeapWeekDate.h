@@ -22,6 +22,8 @@ struct LeapWeekDate {
     friend constexpr bool operator==(const LeapWeekDate&, const LeapWeekDate&) = default;
 };
 
+inline constexpr std::int32_t kLeapWeekEpoch = 1'721'419;  // week 1, weekday 1 of year 1
+
 inline constexpr std::int16_t kLeapWeekOk = 0;
 inline constexpr std::int16_t kLeapWeekBadMonth = -2;
 inline constexpr std::int16_t kLeapWeekBadDay = -3;
@@ -43,7 +45,20 @@ std::int16_t ValidateWeekForm(LeapWeekDate& date);
 std::int32_t WeekFormToJdn(LeapWeekDate& date);
 
 /// Fills year, week and weekday from jdn. Exact for every 32-bit day number.
-void JdnToWeekForm(LeapWeekDate& date);
+inline void JdnToWeekForm(LeapWeekDate& date) {
+    // 20871 weeks are 400 years. These cycles bring every 32-bit day number above 0.
+    constexpr std::int64_t kShiftCycles = 15'000;
+    constexpr std::int64_t kShift = 146'097 * kShiftCycles - kLeapWeekEpoch;
+    // The weeks before year n + 1 are floor((20871 n + 203) / 400). So week w, counted from 0, lies in year
+    // floor((400 w + 196) / 20871) + 1, and what the division leaves, divided by 400, is its place there.
+    const auto days = static_cast<std::uint64_t>(date.jdn + kShift);
+    const std::uint64_t weeks = days / 7;
+    const std::uint64_t scaledWeeks = 400 * weeks + 196;
+    date.year =
+        static_cast<std::int32_t>(static_cast<std::int64_t>(scaledWeeks / 20'871) + 1 - 400 * kShiftCycles);
+    date.week = static_cast<std::int16_t>(scaledWeeks % 20'871 / 400 + 1);
+    date.weekday = static_cast<std::int16_t>(days - 7 * weeks + 1);
+}
 
 /// Fills month and day from year, week and weekday.
 /// returns false when ValidateWeekForm refuses the week form (its code is in status)

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "calendar/EuroFormula.h"
+
 namespace calvoro {
 
 /// Day number of a day of a Common Era year.
@@ -12,6 +14,11 @@ namespace calvoro {
 std::int32_t OrdinalToJdn(std::int32_t year, std::int32_t dayOfYear);
 
 /// Common Era year and day of the year (1 to 366) of a day number. Exact for every 32-bit day number.
-void JdnToOrdinal(std::int32_t jdn, std::int32_t& year, std::int16_t& dayOfYear);
+inline void JdnToOrdinal(std::int32_t jdn, std::int32_t& year, std::int16_t& dayOfYear) {
+    using namespace formula;
+    const YearAndDay date = SplitCommonEra(ShiftedDays(jdn, kCommonEraJanuary, kDaysInCommonEraCycle));
+    year = Unshifted(date.year, 1);
+    dayOfYear = static_cast<std::int16_t>(date.day + 1);
+}
 
 }  // namespace calvoro
