@@ -5,12 +5,10 @@
 #include <QTextDocument>
 #include <algorithm>
 
+#include "windows/QtText.h"
+
 namespace calvoro {
 namespace {
-
-QString FromUtf8(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 std::string WithCrLf(QString raw) {
     raw.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
@@ -48,7 +46,7 @@ std::string SelectedCrLfText(const QPlainTextEdit& box) {
 }
 
 void SetCrLfText(QPlainTextEdit& box, std::string_view text) {
-    box.setPlainText(FromUtf8(text));
+    box.setPlainText(ToQString(text));
 }
 
 void AppendCrLfText(QPlainTextEdit& box, std::string_view text) {
@@ -58,7 +56,7 @@ void AppendCrLfText(QPlainTextEdit& box, std::string_view text) {
 
     QTextCursor end(box.document());
     end.movePosition(QTextCursor::End);
-    end.insertText(FromUtf8(text));
+    end.insertText(ToQString(text));
 
     // A caret that stood at the end has moved on with the text.
     if (box.textCursor().position() != positionBefore || box.textCursor().anchor() != anchorBefore) {

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "windows/Controls.h"
+
 namespace calvoro {
 namespace {
 
@@ -26,10 +28,7 @@ FixedPitchBox::FixedPitchBox(int columns, int lines, QWidget* parent)
     : QPlainTextEdit(parent), columns_(columns), lines_(lines) {
     UseFixedPitchFont(*this);
     setLineWrapMode(NoWrap);
-    setReadOnly(true);
-    setUndoRedoEnabled(false);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setTabChangesFocus(true);
+    MakeReadOnly(*this);
 }
 
 QSize FixedPitchBox::sizeHint() const {

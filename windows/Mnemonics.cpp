@@ -25,7 +25,7 @@ QVector<qsizetype> Candidates(const QString& caption) {
     return beginnings + others;
 }
 
-// Gives every caption a key of its own as far as that is possible: a caption that finds its keys taken
+// Gives every caption a key of its own as far as that is possible: a caption that finds all its keys taken
 // makes an earlier one move to another of its keys.
 class KeyChoice {
 public:
@@ -41,16 +41,27 @@ public:
 private:
     bool Place(qsizetype caption, QSet<QChar>& tried) {
         const QVector<qsizetype> candidates = Candidates(captions_[caption]);
+        const auto isFree = [&](qsizetype place) { return !owners_.contains(Key(caption, place)); };
+        const auto free = std::find_if(candidates.begin(), candidates.end(), isFree);
+        if (free != candidates.end()) {
+            Take(caption, *free);
+            return true;
+        }
         return std::any_of(candidates.begin(), candidates.end(), [&](qsizetype place) {
-            const QChar key = captions_[caption][place].toLower();
+            const QChar key = Key(caption, place);
             if (tried.contains(key)) return false;
             tried.insert(key);
-            const auto owner = owners_.constFind(key);
-            if (owner != owners_.constEnd() && !Place(owner.value(), tried)) return false;
-            owners_.insert(key, caption);
-            places_[caption] = place;
+            if (!Place(owners_.value(key), tried)) return false;
+            Take(caption, place);
             return true;
         });
+    }
+
+    QChar Key(qsizetype caption, qsizetype place) const { return captions_[caption][place].toLower(); }
+
+    void Take(qsizetype caption, qsizetype place) {
+        owners_.insert(Key(caption, place), caption);
+        places_[caption] = place;
     }
 
     const QStringList& captions_;

@@ -12,10 +12,21 @@ QPoint KeptOnScreen(QPoint wanted, QSize size, QRect screen) {
     return {std::clamp(wanted.x(), screen.left(), right), std::clamp(wanted.y(), screen.top(), bottom)};
 }
 
-void MoveKeptOnScreen(QWidget& window, QPoint wanted) {
+QSize FrameSize(const QWidget& window) {
+    return window.frameGeometry().size() - window.geometry().size();
+}
+
+void MoveKeptOnScreen(QWidget& window, QPoint wanted, QSize frame) {
     const QScreen* screen = QGuiApplication::screenAt(wanted);
     if (screen == nullptr) screen = window.screen();
-    window.move(KeptOnScreen(wanted, window.frameGeometry().size(), screen->availableGeometry()));
+    window.move(KeptOnScreen(wanted, window.size() + frame, screen->availableGeometry()));
+}
+
+void BringToFront(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
 }  // namespace calvoro

@@ -3,15 +3,7 @@
 // The month calendar window: one month of the Common Era or the Julian Calendar as text, on request with
 // the ISO week dates of its weeks below. Closing hides it.
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QWidget>
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -20,7 +12,7 @@
 #include "datetext/MonthText.h"
 #include "platform/Platform.h"
 #include "text/Texts.h"
-#include "windows/FixedPitchBox.h"
+#include "windows/MonthControls.h"
 
 namespace calvoro {
 
@@ -58,11 +50,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void BuildLayout();
     void ConnectControls();
     void OnActivated();
-    void FillMonths();
-    void UpdateMnemonics();
 
     bool Draw();
     void ShowIsoDates();
@@ -71,9 +60,9 @@ private:
     void HideIsoWhen(bool condition);
     void OnOptionsSet();
     bool IsoPossible() const;
-    void SetIsoBoxShown(bool shown);
 
     void OnDisplayNextMonth(int index);
+    void ChooseMonth(int index);
     void TrimYear();
     void StepYear(int years);
     void PleaseSpecifyYear();
@@ -90,24 +79,7 @@ private:
     std::int16_t weekRows_ = 0;       // of the grid last drawn
     std::int32_t firstShownJdn_ = 0;  // of the grid last drawn
 
-    QLabel* lblMonth;
-    QComboBox* cboMonths;
-    QLabel* lblYear;
-    QLineEdit* txbYear;
-    QPushButton* cmdDisplay;
-    FixedPitchBox* txbMonth;
-    QGroupBox* fraCalendar;
-    QRadioButton* optCommonEra;
-    QRadioButton* optJulian;
-    QGroupBox* fraFirstDayOfWeek;
-    QRadioButton* optSunday;
-    QRadioButton* optMonday;
-    std::array<QPushButton*, 2> cmdDisplayNextMonth;  // [0] next, [1] previous
-    QPushButton* cmdCopyToClipboard;
-    QPushButton* cmdShowHideISO;
-    QCheckBox* chkWithYear;
-    QPushButton* cmdClose;
-    FixedPitchBox* txbISODates;
+    MonthControls ui_;
 };
 
 }  // namespace calvoro

@@ -5,9 +5,11 @@
 #include <algorithm>
 
 #include "platform/Twips.h"
+#include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
+#include "windows/QtText.h"
 #include "windows/WindowActivation.h"
 
 namespace calvoro {
@@ -16,8 +18,8 @@ namespace {
 // Twips.
 constexpr int kFirstWidth = 9000;
 constexpr int kFirstHeight = 7500;
-constexpr int kLeastWidth = 4000;
-constexpr int kLeastHeight = 4000;
+constexpr int kLeastWidth = 4005;  // 4000 in whole pixels
+constexpr int kLeastHeight = 4005;
 constexpr int kInsideRight = 425;
 constexpr int kInsideBottom = 125;
 constexpr int kTextLeft = 200;
@@ -27,59 +29,43 @@ constexpr int kHeightAroundActivated = 1000;
 constexpr int kHeightAroundResized = 1100;
 constexpr int kButtonGap = 100;
 
-QString Shown(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 }  // namespace
 
 frmHelp::frmHelp(const Texts& texts, const HelpAddresses& addresses, QWidget& mainWindow)
     : texts_(texts),
       mainWindow_(mainWindow),
       helpText_(FillHelpText(addresses)),
-      txbMsg(new QPlainTextEdit(this)),
-      cmdClose(new QPushButton(this)) {
+      txbMsg(Named(new QPlainTextEdit(this), "txbMsg")),
+      cmdClose(NewButton("cmdClose", this)) {
     setObjectName(QStringLiteral("frmHelp"));
     setAttribute(Qt::WA_QuitOnClose, false);
 
-    txbMsg->setObjectName(QStringLiteral("txbMsg"));
-    txbMsg->setReadOnly(true);
-    txbMsg->setUndoRedoEnabled(false);
-    txbMsg->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    txbMsg->setTabChangesFocus(true);
-
-    cmdClose->setObjectName(QStringLiteral("cmdClose"));
-    cmdClose->setAutoDefault(true);  // Enter presses it
+    MakeReadOnly(*txbMsg);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     new WindowActivation(*this, [this] { OnActivated(); });
 
+    setMinimumSize(TwipsToPixels(kLeastWidth), TwipsToPixels(kLeastHeight));
     resize(TwipsToPixels(kFirstWidth), TwipsToPixels(kFirstHeight));
 }
 
 void frmHelp::ShowHelp() {
     if (!placed_) {
+        const QSize frame = FrameSize(mainWindow_);
         const QRect around = mainWindow_.frameGeometry();
-        MoveKeptOnScreen(*this,
-                         QPoint(around.left() + around.width() - width() - TwipsToPixels(kInsideRight),
-                                around.top() + around.height() - height() - TwipsToPixels(kInsideBottom)));
+        const int right = around.left() + around.width() - TwipsToPixels(kInsideRight);
+        const int bottom = around.top() + around.height() - TwipsToPixels(kInsideBottom);
+        const QSize outer = size() + frame;
+        MoveKeptOnScreen(*this, {right - outer.width(), bottom - outer.height()}, frame);
         placed_ = true;
     }
-    if (isMinimized()) {
-        showNormal();
-    } else {
-        show();
-    }
-    raise();
-    activateWindow();
+    BringToFront(*this);
 }
 
 void frmHelp::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     if (isMinimized()) return;
     ArrangeControls(kHeightAroundResized);
-    cmdClose->move((width() - cmdClose->width()) / 2,
-                   txbMsg->geometry().top() + txbMsg->height() + TwipsToPixels(kButtonGap));
 }
 
 void frmHelp::closeEvent(QCloseEvent* event) {
@@ -88,19 +74,29 @@ void frmHelp::closeEvent(QCloseEvent* event) {
 }
 
 void frmHelp::OnActivated() {
-    setWindowTitle(QStringLiteral("Calvoro ") + Shown(texts_.Shown(TextId::Help)));
-    SetCrLfText(*txbMsg, helpText_[static_cast<std::size_t>(texts_.InterfaceLanguage)]);
-    txbMsg->setAccessibleName(Shown(texts_.Shown(TextId::Help)));
-    SetCaption(*cmdClose, WithMnemonics({Shown(texts_.Shown(TextId::Close))}).first());
+    setWindowTitle(QStringLiteral("Calvoro ") + ToQString(texts_.Shown(TextId::Help)));
+    const std::string& text = helpText_[static_cast<std::size_t>(texts_.InterfaceLanguage)];
+    ShowText(text.empty() ? helpText_[LanguageEnglish] : text);
+    txbMsg->setAccessibleName(ToQString(texts_.Shown(TextId::Help)));
+    SetCaption(*cmdClose, WithMnemonics({ToQString(texts_.Shown(TextId::Close))}).first());
     if (!isMinimized() && !isMaximized()) ArrangeControls(kHeightAroundActivated);
+}
+
+// Leaves a text that is shown already where the user has scrolled it.
+void frmHelp::ShowText(const std::string& text) {
+    if (CrLfText(*txbMsg) != text) SetCrLfText(*txbMsg, text);
 }
 
 void frmHelp::ArrangeControls(int heightAround) {
     cmdClose->resize(cmdClose->sizeHint());
-    setMinimumSize(TwipsToPixels(kLeastWidth) + 1, TwipsToPixels(kLeastHeight) + 1);
-    const int windowHeight = height() + TwipsToPixels(kTitleBarHeight);
-    txbMsg->setGeometry(TwipsToPixels(kTextLeft), TwipsToPixels(kTextTop),
-                        width() - TwipsToPixels(kWidthAround), windowHeight - TwipsToPixels(heightAround));
+    const int gap = TwipsToPixels(kButtonGap);
+    const int top = TwipsToPixels(kTextTop);
+    const int wanted = height() + TwipsToPixels(kTitleBarHeight) - TwipsToPixels(heightAround);
+    // A button in a large font takes its room from the text.
+    const int room = height() - top - cmdClose->height() - 2 * gap;
+    txbMsg->setGeometry(TwipsToPixels(kTextLeft), top, width() - TwipsToPixels(kWidthAround),
+                        std::min(wanted, room));
+    cmdClose->move((width() - cmdClose->width()) / 2, top + txbMsg->height() + gap);
 }
 
 }  // namespace calvoro

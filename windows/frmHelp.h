@@ -27,6 +27,7 @@ protected:
 
 private:
     void OnActivated();
+    void ShowText(const std::string& text);
     void ArrangeControls(int heightAround);
 
     const Texts& texts_;

@@ -8,10 +8,12 @@
 #include <algorithm>
 
 #include "platform/Twips.h"
+#include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/FixedPitchBox.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
+#include "windows/QtText.h"
 #include "windows/WindowActivation.h"
 
 namespace calvoro {
@@ -37,29 +39,18 @@ bool IsEnter(const QKeyEvent& key) {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
-QPushButton* NewButton(const QString& name, QWidget* parent) {
-    auto* button = new QPushButton(parent);
-    button->setObjectName(name);
-    button->setAutoDefault(true);
-    return button;
-}
-
 }  // namespace
 
 frmLargeDisplay::frmLargeDisplay(const Platform& platform, const Texts& texts)
     : clipboard_(platform.clipboard),
       texts_(texts),
-      txbOutput(new QPlainTextEdit(this)),
-      cmdCopyToClipboard(NewButton(QStringLiteral("cmdCopyToClipboard"), this)),
-      cmdClose(NewButton(QStringLiteral("cmdClose"), this)) {
+      txbOutput(Named(new QPlainTextEdit(this), "txbOutput")),
+      cmdCopyToClipboard(NewButton("cmdCopyToClipboard", this)),
+      cmdClose(NewButton("cmdClose", this)) {
     setObjectName(QStringLiteral("frmLargeDisplay"));
     setAttribute(Qt::WA_QuitOnClose, false);
 
-    txbOutput->setObjectName(QStringLiteral("txbOutput"));
-    txbOutput->setReadOnly(true);
-    txbOutput->setUndoRedoEnabled(false);
-    txbOutput->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    txbOutput->setTabChangesFocus(true);
+    MakeReadOnly(*txbOutput);
     txbOutput->installEventFilter(this);
     UseFixedPitchFont(*txbOutput);
 
@@ -115,7 +106,7 @@ void frmLargeDisplay::WidenDisplayIfNeeded(std::string_view text, std::int16_t c
     const int widest = static_cast<int>(screenShare * place.width());
     if (buffer_.Overflowed() || width() >= widest) return;
 
-    const auto length = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).size();
+    const qsizetype length = ToQString(text).size();
     const qsizetype needed = length * characterWidth / kTwipsPerPixel;
     if (width() >= needed) return;
     resize(static_cast<int>(std::min<qsizetype>(widest, needed)), height());
@@ -134,7 +125,7 @@ void frmLargeDisplay::DisplayArray(const std::vector<std::string>& texts, std::s
 
 void frmLargeDisplay::Form_Activate() {
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
-    txbOutput->setAccessibleName(QString::fromUtf8(texts_.Shown(TextId::OutputWindow)));
+    txbOutput->setAccessibleName(ToQString(texts_.Shown(TextId::OutputWindow)));
     SetCopyToClipboardButton();
     SetCopyButtonWidth(4000, 2000);
     activated_ = true;

@@ -6,7 +6,9 @@
 #include <algorithm>
 
 #include "platform/Twips.h"
+#include "windows/Controls.h"
 #include "windows/Placement.h"
+#include "windows/QtText.h"
 
 namespace calvoro {
 namespace {
@@ -18,18 +20,16 @@ constexpr int kDesignHeight = 600;
 
 frmPopUp::frmPopUp(QWidget* opener)
     : QDialog(opener, Qt::Dialog | Qt::FramelessWindowHint),
-      lblMessage(new QLabel(this)),
-      Timer1(new QTimer(this)) {
+      lblMessage(Named(new QLabel(this), "lblMessage")),
+      Timer1(Named(new QTimer(this), "Timer1")) {
     setObjectName(QStringLiteral("frmPopUp"));
     setAttribute(Qt::WA_QuitOnClose, false);
 
-    lblMessage->setObjectName(QStringLiteral("lblMessage"));
     lblMessage->setTextFormat(Qt::PlainText);
     lblMessage->setAlignment(Qt::AlignCenter);
     lblMessage->setFrameStyle(QFrame::Box | QFrame::Plain);
     lblMessage->installEventFilter(this);
 
-    Timer1->setObjectName(QStringLiteral("Timer1"));
     Timer1->setSingleShot(true);
     connect(Timer1, &QTimer::timeout, this, &QDialog::reject);
 
@@ -94,7 +94,7 @@ bool frmPopUp::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmPopUp::SetMessage(std::string_view message) {
-    lblMessage->setText(QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size())));
+    lblMessage->setText(ToQString(message));
     setAccessibleName(lblMessage->text());
 }
 

@@ -1,0 +1,334 @@
+#include <QDialog>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTimer>
+
+#include "tests/windows/MonthWindow.h"
+
+namespace calvoro {
+namespace {
+
+const std::string kSeptember2024 =
+    Lines({" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  26   27   28   29   30   31    1  ",
+           "   2    3    4    5    6    7    8  ", "   9   10   11   12   13   14   15  ",
+           "  16   17   18   19   20   21   22  ", "  23   24   25   26   27   28   29  ",
+           "  30    1    2    3    4    5    6  "});
+const std::string kIsoDates = Lines({"       M        T        W        T        F        S        S",
+                                     "4-W35-1  4-W35-2  4-W35-3  4-W35-4  4-W35-5  4-W35-6  4-W35-7",
+                                     "4-W36-1  4-W36-2  4-W36-3  4-W36-4  4-W36-5  4-W36-6  4-W36-7",
+                                     "4-W37-1  4-W37-2  4-W37-3  4-W37-4  4-W37-5  4-W37-6  4-W37-7",
+                                     "4-W38-1  4-W38-2  4-W38-3  4-W38-4  4-W38-5  4-W38-6  4-W38-7",
+                                     "4-W39-1  4-W39-2  4-W39-3  4-W39-4  4-W39-5  4-W39-6  4-W39-7",
+                                     "4-W40-1  4-W40-2  4-W40-3  4-W40-4  4-W40-5  4-W40-6  4-W40-7"});
+const std::string kIsoDatesWithoutYear = Lines(
+    {" Mon    Tue    Wed    Thu    Fri    Sat    Sun   ", "W35-1  W35-2  W35-3  W35-4  W35-5  W35-6  W35-7",
+     "W36-1  W36-2  W36-3  W36-4  W36-5  W36-6  W36-7", "W37-1  W37-2  W37-3  W37-4  W37-5  W37-6  W37-7",
+     "W38-1  W38-2  W38-3  W38-4  W38-5  W38-6  W38-7", "W39-1  W39-2  W39-3  W39-4  W39-5  W39-6  W39-7",
+     "W40-1  W40-2  W40-3  W40-4  W40-5  W40-6  W40-7"});
+
+// September 2024, Monday first.
+struct September : MonthWindow {
+    September() {
+        window.SetWeekStart(WeekStart::Monday);
+        ShowMonth("2024", 9);
+    }
+
+    void ShowIso() { ClickOn(Button("cmdShowHideISO")); }
+};
+
+}  // namespace
+
+class frmDisplayMonthIsoTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        QCOMPARE(LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat"), std::string());
+    }
+
+    void ShowsAndHidesTheColumn() {
+        September month;
+        const int height = month.window.height();
+        month.ShowIso();
+        QVERIFY(month.IsoBoxShown());
+        QCOMPARE(month.IsoCaption(), QStringLiteral("Hide ISO Week dates"));
+        QCOMPARE(month.IsoDates(), kIsoDates);
+        QVERIFY(month.window.height() > height);
+
+        month.ShowIso();
+        QVERIFY(!month.IsoBoxShown());
+        QCOMPARE(month.IsoCaption(), QStringLiteral("Display ISO Week dates"));
+        QCOMPARE(month.window.height(), height);
+    }
+
+    void ShowsTheColumnWithoutScrollBars() {
+        September month;
+        month.ShowIso();
+        QCoreApplication::processEvents();
+        for (const char* name : {"txbMonth", "txbISODates"}) {
+            const auto& box = month.Of<QPlainTextEdit>(name);
+            QVERIFY2(!box.horizontalScrollBar()->isVisible(), name);
+            QVERIFY2(!box.verticalScrollBar()->isVisible(), name);
+        }
+    }
+
+    void TheWindowWithTheColumnStaysOnTheScreen() {
+        September month;
+        const QRect screen = month.window.screen()->availableGeometry();
+        month.window.move(screen.left(), screen.bottom() - month.window.height());
+        month.ShowIso();
+        QVERIFY(screen.contains(month.window.frameGeometry()));
+    }
+
+    void WeekFiveOf2024ReadsWithTheFinalDigitOfItsYear() {
+        MonthWindow month;
+        month.window.SetWeekStart(WeekStart::Monday);
+        month.ShowMonth("2024", 1);
+        ClickOn(month.Button("cmdShowHideISO"));
+        const std::string line = "4-W05-1  4-W05-2  4-W05-3  4-W05-4  4-W05-5  4-W05-6  4-W05-7";
+        QVERIFY(month.IsoDates().find("\r\n" + line) != std::string::npos);
+        ClickOnMark(month.Of<QCheckBox>("chkWithYear"));
+        const std::string shortLine = "W05-1  W05-2  W05-3  W05-4  W05-5  W05-6  W05-7";
+        QVERIFY(month.IsoDates().find("\r\n" + shortLine) != std::string::npos);
+    }
+
+    void TheYearsDigitIsTakenAwayAndPutBack() {
+        September month;
+        month.ShowIso();
+        ClickOnMark(month.Of<QCheckBox>("chkWithYear"));
+        QCOMPARE(month.IsoDates(), kIsoDatesWithoutYear);
+        ClickOnMark(month.Of<QCheckBox>("chkWithYear"));
+        QCOMPARE(month.IsoDates(), kIsoDates);
+    }
+
+    void TheYearsDigitWaitsForTheColumn() {
+        September month;
+        ClickOnMark(month.Of<QCheckBox>("chkWithYear"));
+        QCOMPARE(month.IsoDates(), std::string());
+        month.ShowIso();
+        QCOMPARE(month.IsoDates(), kIsoDatesWithoutYear);
+    }
+
+    void DrawingAMonthDrawsTheColumnToo() {
+        September month;
+        month.ShowIso();
+        ClickOn(month.Button("cmdDisplayNextMonth0"));
+        QVERIFY(month.IsoDates().find("4-W44-7") != std::string::npos);
+        ClickOn(month.Button("cmdDisplayNextMonth1"));
+        QCOMPARE(month.IsoDates(), kIsoDates);
+    }
+
+    void OptionsHideTheColumnThatTheyMakeImpossible_data() {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("Julian") << QStringLiteral("optJulian");
+        QTest::newRow("Sunday") << QStringLiteral("optSunday");
+    }
+
+    void OptionsHideTheColumnThatTheyMakeImpossible() {
+        QFETCH(const QString, option);
+        September month;
+        month.ShowIso();
+        ClickOnMark(month.Option(option.toLatin1().constData()));
+        QVERIFY(!month.IsoBoxShown());
+        QCOMPARE(month.IsoCaption(), QStringLiteral("Display ISO Week dates"));
+        QVERIFY(!month.Button("cmdShowHideISO").isEnabled());
+        QVERIFY(!month.Of<QCheckBox>("chkWithYear").isEnabled());
+    }
+
+    void TheColumnIsOfferedForTheCommonEraWithMondayOnly() {
+        MonthWindow month;
+        month.ShowMonth("2024", 9);
+        const auto offered = [&month] {
+            const bool button = month.Button("cmdShowHideISO").isEnabled();
+            return button && month.Of<QCheckBox>("chkWithYear").isEnabled();
+        };
+        QVERIFY(!offered());
+        ClickOnMark(month.Option("optMonday"));
+        QVERIFY(offered());
+        ClickOnMark(month.Option("optJulian"));
+        QVERIFY(!offered());
+        ClickOnMark(month.Option("optSunday"));
+        QVERIFY(!offered());
+        ClickOnMark(month.Option("optCommonEra"));
+        QVERIFY(!offered());
+        ClickOnMark(month.Option("optMonday"));
+        QVERIFY(offered());
+        month.ShowMonth("1900", 1, CalendarNumber::JC);
+        QVERIFY(!offered());
+    }
+
+    void TheControlsAreLeftAloneUntilTheMainWindowIsReady() {
+        MonthWindow month;
+        month.ready = false;
+        month.ShowMonth("2024", 9);
+        QVERIFY(month.Button("cmdShowHideISO").isEnabled());
+        month.window.SetCalendar(CalendarNumber::JC);
+        QVERIFY(month.Button("cmdShowHideISO").isEnabled());
+        month.ready = true;
+        month.window.SetCalendar(CalendarNumber::CE);
+        QVERIFY(!month.Button("cmdShowHideISO").isEnabled());
+    }
+
+    void OptionsThatAreSetHideTheColumnToo() {
+        September month;
+        month.ShowIso();
+        month.window.SetWeekStart(WeekStart::Sunday);
+        QVERIFY(!month.IsoBoxShown());
+        month.window.SetWeekStart(WeekStart::Monday);
+        month.ShowIso();
+        month.ShowMonth("1900", 1, CalendarNumber::JC);
+        QVERIFY(!month.IsoBoxShown());
+    }
+
+    void CopiesHeadingGridAndColumn() {
+        September month;
+        month.ShowIso();
+        ClickOn(month.Button("cmdCopyToClipboard"));
+        QCOMPARE(month.Clipboard(), "September 2024 (Common Era Calendar)\r\n\r\n" + kSeptember2024 +
+                                        "\r\n\r\nISO 8601 Week dates:\r\n\r\n" + kIsoDates);
+        QCOMPARE(month.fake.clipboard.calls.size(), std::size_t{2});
+        QCOMPARE(month.fake.clipboard.calls[0], std::string("Clear"));
+        QCOMPARE(month.window.focusWidget(), &month.Button("cmdClose"));
+    }
+
+    void CopiesHeadingAndGridWithoutTheColumn() {
+        September month;
+        ClickOn(month.Button("cmdCopyToClipboard"));
+        QCOMPARE(month.Clipboard(), "September 2024 (Common Era Calendar)\r\n\r\n" + kSeptember2024);
+    }
+
+    void CopiesTheYearAsItStands() {
+        September month;
+        month.Year().setText(QStringLiteral(" 2024 "));
+        month.Option("optJulian").click();
+        ClickOn(month.Button("cmdCopyToClipboard"));
+        QVERIFY(month.Clipboard().starts_with("September  2024  (Julian Calendar)\r\n\r\n Mon "));
+    }
+
+    void CopiesInGerman() {
+        September month;
+        month.texts.InterfaceLanguage = LanguageGerman;
+        month.window.SetLanguageDependentText();
+        month.ActivateAgain();
+        ClickOn(month.Button("cmdDisplay"));
+        month.ShowIso();
+        ClickOn(month.Button("cmdCopyToClipboard"));
+        QVERIFY(month.Clipboard().starts_with(
+            "September 2024 (Common Era Kalender)\r\n\r\n Mon  Die  Mit  Don "));
+        QVERIFY(month.Clipboard().find("\r\n\r\nISO-8601-Woche-Daten:\r\n\r\n       M        D        M ") !=
+                std::string::npos);
+    }
+
+    void ClosingHidesTheColumnAndGivesTheFocusBack_data() {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"button", "frame", "Esc"}) QTest::newRow(way) << QString::fromLatin1(way);
+    }
+
+    void ClosingHidesTheColumnAndGivesTheFocusBack() {
+        QFETCH(const QString, way);
+        September month;
+        month.ShowIso();
+        if (way == QStringLiteral("button")) ClickOn(month.Button("cmdClose"));
+        if (way == QStringLiteral("frame")) month.window.close();
+        if (way == QStringLiteral("Esc")) QTest::keyClick(&month.Year(), Qt::Key_Escape);
+        QVERIFY(!month.window.isVisible());
+        QVERIFY(!month.IsoBoxShown());
+        QCOMPARE(month.IsoCaption(), QStringLiteral("Display ISO Week dates"));
+        QVERIFY(QTest::qWaitForWindowActive(&month.mainWindow));
+        // Hidden, not gone: what was drawn is still there.
+        QCOMPARE(month.Grid(), kSeptember2024);
+    }
+
+    void ActivationFollowsTheLanguageAndKeepsTheMonth() {
+        MonthWindow month;
+        month.texts.InterfaceLanguage = LanguageGerman;
+        month.window.SetLanguageDependentText();
+        QCOMPARE(month.texts.TextLanguage, LanguageEnglish);
+        month.ShowMonth("2024", 3);
+        QCOMPARE(month.texts.TextLanguage, LanguageGerman);
+        QCOMPARE(month.window.windowTitle(), QStringLiteral("Monat zeigen"));
+        QCOMPARE(month.Months().currentText(), QStringLiteral("Maerz"));
+
+        month.texts.InterfaceLanguage = LanguageEnglish;
+        month.ActivateAgain();
+        QCOMPARE(month.texts.TextLanguage, LanguageEnglish);
+        QCOMPARE(month.window.windowTitle(), QStringLiteral("Display month"));
+        QCOMPARE(month.Months().currentText(), QStringLiteral("March"));
+    }
+
+    void DeliberatelyActivationHidesTheColumnButLeavesItsTextAndTheCaption() {
+        September month;
+        const int height = month.window.height();
+        month.ShowIso();
+        month.ActivateAgain();
+        QVERIFY(!month.IsoBoxShown());
+        QCOMPARE(month.window.height(), height);
+        QCOMPARE(month.IsoCaption(), QStringLiteral("Hide ISO Week dates"));
+        QCOMPARE(month.IsoDates(), kIsoDates);
+        month.ShowIso();
+        QVERIFY(month.IsoBoxShown());
+    }
+
+    void AMessageBoxOfItsOwnIsNoActivation() {
+        September month;
+        month.ShowIso();
+        month.fake.boxes.whileOpen = [] {
+            QDialog box;
+            QTimer::singleShot(0, &box, &QDialog::reject);
+            box.exec();
+        };
+        month.Year().clear();
+        ClickOn(month.Button("cmdDisplay"));
+        QCOMPARE(month.fake.boxes.shown.size(), std::size_t{1});
+        month.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&month.window));
+        QVERIFY(month.IsoBoxShown());
+    }
+
+    void CaptionsAreGermanWithKeysOfTheirOwn() {
+        MonthWindow month;
+        CheckKeysAreUnique(month.window, 13);
+        month.texts.InterfaceLanguage = LanguageGerman;
+        month.window.SetLanguageDependentText();
+        CheckKeysAreUnique(month.window, 13);
+        const auto caption = [&month](const char* name) { return CaptionOf(month.window, name); };
+        QCOMPARE(caption("cmdDisplayNextMonth0"), QStringLiteral("Folgender Monat zeigen"));
+        QCOMPARE(caption("cmdDisplayNextMonth1"), QStringLiteral("Vorhergehender Monat zeigen"));
+        QCOMPARE(caption("cmdShowHideISO"), QStringLiteral("ISO-Woche-Daten zeigen"));
+        QCOMPARE(caption("chkWithYear"), QStringLiteral("mit letzter Ziffer des Jahres"));
+        QCOMPARE(caption("lblYear"), QStringLiteral("Jahr"));
+        QCOMPARE(month.Of<QGroupBox>("fraFirstDayOfWeek").title(), QStringLiteral("Erster Tag der Woche"));
+        QCOMPARE(caption("cmdDisplay"), QStringLiteral("Monat zeigen"));
+        QCOMPARE(caption("cmdClose"), QStringLiteral("Schliessen"));
+        QCOMPARE(caption("optJulian"), QStringLiteral("Julianisch"));
+        QCOMPARE(caption("optMonday"), QStringLiteral("Montag"));
+    }
+
+    void IsUsableByKeyboardAndScreenReader() {
+        September month;
+        CheckAccessibleNames(month.window);
+        QCOMPARE(month.Year().accessibleName(), QStringLiteral("Year"));
+        QCOMPARE(month.Months().accessibleName(), QStringLiteral("Month"));
+        const QStringList order = {QStringLiteral("cboMonths"),
+                                   QStringLiteral("txbYear"),
+                                   QStringLiteral("cmdDisplay"),
+                                   QStringLiteral("txbMonth"),
+                                   QStringLiteral("optCommonEra"),
+                                   QStringLiteral("optMonday"),
+                                   QStringLiteral("cmdDisplayNextMonth1"),
+                                   QStringLiteral("cmdDisplayNextMonth0"),
+                                   QStringLiteral("cmdCopyToClipboard"),
+                                   QStringLiteral("cmdShowHideISO"),
+                                   QStringLiteral("chkWithYear"),
+                                   QStringLiteral("cmdClose")};
+        QCOMPARE(TabOrderFrom(month.Months()), order);
+        month.Button("cmdDisplayNextMonth0").setFocus();
+        QTest::keyClick(&month.Button("cmdDisplayNextMonth0"), Qt::Key_Return);
+        QCOMPARE(month.ControlsTell(), QStringLiteral("October 2024"));
+    }
+};
+
+}  // namespace calvoro
+
+QTEST_MAIN(calvoro::frmDisplayMonthIsoTest)
+#include "frmDisplayMonthIsoTest.moc"

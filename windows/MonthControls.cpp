@@ -1,0 +1,177 @@
+#include "windows/MonthControls.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "windows/Controls.h"
+#include "windows/Mnemonics.h"
+#include "windows/Placement.h"
+#include "windows/QtText.h"
+
+namespace calvoro {
+namespace {
+
+constexpr int kMonthColumns = 36;  // a blank and seven days of five characters
+constexpr int kIsoColumns = 62;    // seven dates "0-W01-1", two blanks apart, under a heading one wider
+constexpr int kLines = 7;          // heading and six weeks
+
+}  // namespace
+
+MonthControls::MonthControls(QWidget& window)
+    : lblMonth(Named(new QLabel(&window), "lblMonth")),
+      cboMonths(Named(new QComboBox(&window), "cboMonths")),
+      lblYear(Named(new QLabel(&window), "lblYear")),
+      txbYear(Named(new QLineEdit(&window), "txbYear")),
+      cmdDisplay(NewButton("cmdDisplay", &window)),
+      txbMonth(Named(new FixedPitchBox(kMonthColumns, kLines, &window), "txbMonth")),
+      fraCalendar(Named(new QGroupBox(&window), "fraCalendar")),
+      optCommonEra(Named(new QRadioButton(fraCalendar), "optCommonEra")),
+      optJulian(Named(new QRadioButton(fraCalendar), "optJulian")),
+      fraFirstDayOfWeek(Named(new QGroupBox(&window), "fraFirstDayOfWeek")),
+      optSunday(Named(new QRadioButton(fraFirstDayOfWeek), "optSunday")),
+      optMonday(Named(new QRadioButton(fraFirstDayOfWeek), "optMonday")),
+      cmdDisplayNextMonth{NewButton("cmdDisplayNextMonth0", &window),
+                          NewButton("cmdDisplayNextMonth1", &window)},
+      cmdCopyToClipboard(NewButton("cmdCopyToClipboard", &window)),
+      cmdShowHideISO(NewButton("cmdShowHideISO", &window)),
+      chkWithYear(Named(new QCheckBox(&window), "chkWithYear")),
+      cmdClose(NewButton("cmdClose", &window)),
+      txbISODates(Named(new FixedPitchBox(kIsoColumns, kLines, &window), "txbISODates")),
+      window_(window) {
+    lblMonth->setBuddy(cboMonths);
+    lblYear->setBuddy(txbYear);
+    Choose(*optCommonEra);
+    Choose(*optSunday);
+    chkWithYear->setChecked(true);
+    txbISODates->hide();
+    Arrange();
+}
+
+void MonthControls::SetCaptions(const Texts& texts) {
+    const auto shown = [&texts](TextId id) { return ToQString(texts.Shown(id)); };
+    const auto weekdays = ShownWeekdayNames(texts.InterfaceLanguage);
+
+    SetCaption(*lblMonth, shown(TextId::Month));
+    SetCaption(*lblYear, shown(TextId::Year));
+    SetCaption(*cmdDisplay, shown(TextId::DisplayMonth));
+    fraCalendar->setTitle(shown(TextId::Calendar));
+    SetCaption(*optCommonEra, shown(TextId::CommonEra));
+    SetCaption(*optJulian, shown(TextId::Julian));
+    fraFirstDayOfWeek->setTitle(shown(TextId::FirstDayOfWeek));
+    SetCaption(*optSunday, ToQString(weekdays[0]));
+    SetCaption(*optMonday, ToQString(weekdays[1]));
+    SetCaption(*cmdDisplayNextMonth[0], shown(TextId::DisplayNextMonth));
+    SetCaption(*cmdDisplayNextMonth[1], shown(TextId::DisplayPreviousMonth));
+    SetCaption(*cmdCopyToClipboard, shown(TextId::CopyToClipboard));
+    SetCaption(*cmdShowHideISO, shown(TextId::DisplayISOWeekDates));
+    SetCaption(*chkWithYear, shown(TextId::WithFinalDigitOfYear));
+    SetCaption(*cmdClose, shown(TextId::Close));
+    UpdateMnemonics();
+
+    cboMonths->setAccessibleName(shown(TextId::Month));
+    txbYear->setAccessibleName(shown(TextId::Year));
+    txbMonth->setAccessibleName(shown(TextId::Calendar));
+    txbISODates->setAccessibleName(shown(TextId::ISOWeekDate));
+}
+
+void MonthControls::FillMonths(const Texts& texts) {
+    const QSignalBlocker blocker(cboMonths);
+    const int chosen = std::max(0, cboMonths->currentIndex());
+    cboMonths->clear();
+    for (std::int32_t month = 0; month < 12; ++month) {
+        cboMonths->addItem(ToQString(ShownMonthName(texts.InterfaceLanguage, month)));
+    }
+    cboMonths->setCurrentIndex(chosen);
+}
+
+void MonthControls::SetIsoCaption(const QString& caption) {
+    SetCaption(*cmdShowHideISO, caption);
+    UpdateMnemonics();
+}
+
+void MonthControls::SetIsoBoxShown(bool shown) {
+    if (txbISODates->isHidden() != shown) return;
+    auto* layout = static_cast<QGridLayout*>(window_.layout());
+    const int boxHeight = shown ? txbISODates->sizeHint().height() : -txbISODates->height();
+    const int spacing = shown ? layout->verticalSpacing() : -layout->verticalSpacing();
+    const int wanted = window_.height() + boxHeight + spacing;
+
+    txbISODates->setVisible(shown);
+    layout->activate();  // the window's least height follows at once
+    window_.resize(window_.width(), std::min(wanted, window_.screen()->availableSize().height()));
+    if (shown && window_.isVisible()) MoveKeptOnScreen(window_, window_.pos());
+}
+
+// Rows from top to bottom; whatever else has rows of its own is to the right of the month.
+void MonthControls::Arrange() {
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(lblMonth);
+    heading->addWidget(cboMonths);
+    heading->addWidget(lblYear);
+    heading->addWidget(txbYear, 1);
+    heading->addWidget(cmdDisplay);
+
+    auto* calendars = new QVBoxLayout(fraCalendar);
+    calendars->addWidget(optCommonEra);
+    calendars->addWidget(optJulian);
+    auto* weekStarts = new QVBoxLayout(fraFirstDayOfWeek);
+    weekStarts->addWidget(optSunday);
+    weekStarts->addWidget(optMonday);
+    auto* options = new QVBoxLayout;
+    options->addWidget(fraCalendar);
+    options->addWidget(fraFirstDayOfWeek);
+    options->addStretch(1);
+
+    auto* steps = new QHBoxLayout;
+    steps->addWidget(cmdDisplayNextMonth[1]);
+    steps->addWidget(cmdDisplayNextMonth[0]);
+    steps->addStretch(1);
+    auto* iso = new QHBoxLayout;
+    iso->addWidget(cmdShowHideISO);
+    iso->addWidget(chkWithYear);
+    iso->addStretch(1);
+
+    auto* grid = new QGridLayout(&window_);
+    grid->addLayout(heading, 0, 0, 1, 2);
+    grid->addWidget(txbMonth, 1, 0);
+    grid->addLayout(options, 1, 1);
+    grid->addLayout(steps, 2, 0);
+    grid->addWidget(cmdCopyToClipboard, 2, 1);
+    grid->addLayout(iso, 3, 0);
+    grid->addWidget(cmdClose, 3, 1);
+    grid->addWidget(txbISODates, 4, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(1, 1);
+    grid->setRowStretch(4, 1);
+
+    const std::array<QWidget*, 15> readingOrder = {cboMonths,
+                                                   txbYear,
+                                                   cmdDisplay,
+                                                   txbMonth,
+                                                   optCommonEra,
+                                                   optJulian,
+                                                   optSunday,
+                                                   optMonday,
+                                                   cmdDisplayNextMonth[1],
+                                                   cmdDisplayNextMonth[0],
+                                                   cmdCopyToClipboard,
+                                                   cmdShowHideISO,
+                                                   chkWithYear,
+                                                   cmdClose,
+                                                   txbISODates};
+    for (std::size_t i = 1; i < readingOrder.size(); ++i) {
+        QWidget::setTabOrder(readingOrder[i - 1], readingOrder[i]);
+    }
+}
+
+void MonthControls::UpdateMnemonics() {
+    SetMnemonics({lblMonth, lblYear, cmdDisplay, optCommonEra, optJulian, optSunday, optMonday,
+                  cmdDisplayNextMonth[1], cmdDisplayNextMonth[0], cmdCopyToClipboard, cmdShowHideISO,
+                  chkWithYear, cmdClose});
+}
+
+}  // namespace calvoro

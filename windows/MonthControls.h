@@ -1,0 +1,61 @@
+#pragma once
+
+// The controls of the month window, their arrangement and their captions. What they do is the window's.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <array>
+
+#include "text/Texts.h"
+#include "windows/FixedPitchBox.h"
+
+namespace calvoro {
+
+struct MonthControls {
+    /// Builds the controls into a window, with the factory's options: Common Era, Sunday first.
+    explicit MonthControls(QWidget& window);
+
+    /// Sets captions and accessible names in the language of the interface.
+    void SetCaptions(const Texts& texts);
+
+    /// Fills the list of months in the language of the interface, keeping the month chosen. No handler
+    /// runs.
+    void FillMonths(const Texts& texts);
+
+    void SetIsoCaption(const QString& caption);
+
+    /// Shows or hides the ISO box. The window grows and shrinks by it, so that the rest keeps its size.
+    void SetIsoBoxShown(bool shown);
+
+    QLabel* lblMonth;
+    QComboBox* cboMonths;
+    QLabel* lblYear;
+    QLineEdit* txbYear;
+    QPushButton* cmdDisplay;
+    FixedPitchBox* txbMonth;
+    QGroupBox* fraCalendar;
+    QRadioButton* optCommonEra;
+    QRadioButton* optJulian;
+    QGroupBox* fraFirstDayOfWeek;
+    QRadioButton* optSunday;
+    QRadioButton* optMonday;
+    std::array<QPushButton*, 2> cmdDisplayNextMonth;  // [0] next, [1] previous
+    QPushButton* cmdCopyToClipboard;
+    QPushButton* cmdShowHideISO;
+    QCheckBox* chkWithYear;
+    QPushButton* cmdClose;
+    FixedPitchBox* txbISODates;
+
+private:
+    void Arrange();
+    void UpdateMnemonics();
+
+    QWidget& window_;
+};
+
+}  // namespace calvoro
