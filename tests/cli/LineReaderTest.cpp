@@ -1,0 +1,170 @@
+#include "cli/LineReader.h"
+
+#include <gtest/gtest.h>
+#include <poll.h>
+
+#include <cerrno>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "tests/cli/TemporaryFiles.h"
+
+namespace calvoro {
+namespace {
+
+constexpr std::size_t kMax = LineReader::kMaxLineLength;
+
+std::vector<std::string> LinesOf(int descriptor) {
+    const TemporaryFile answers;
+    OutputStream output(answers.Number());
+    LineReader reader(descriptor, output);
+    std::vector<std::string> lines;
+    std::string_view line;
+    while (reader.Next(line)) {
+        lines.emplace_back(line);
+        if (reader.IsCut()) lines.back().append("(cut)");
+    }
+    EXPECT_EQ(reader.Error(), 0);
+    EXPECT_FALSE(reader.Next(line));
+    return lines;
+}
+
+std::vector<std::string> LinesOfText(const std::string& text) {
+    return LinesOf(TemporaryFile(text).Number());
+}
+
+using Lines = std::vector<std::string>;
+
+struct LineRow {
+    std::string name;
+    std::string text;
+    Lines lines;
+};
+void PrintTo(const LineRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class LineReaderLines : public testing::TestWithParam<LineRow> {};
+
+TEST_P(LineReaderLines, AreSplitWithoutTheirEnds) {
+    EXPECT_EQ(LinesOfText(GetParam().text), GetParam().lines);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, LineReaderLines,
+    testing::Values(LineRow{"Nothing", "", {}}, LineRow{"OneEmptyLine", "\n", {""}},
+                    LineRow{"EmptyLines", "\n\n\r\n", {"", "", ""}}, LineRow{"OneLine", "a\n", {"a"}},
+                    LineRow{"NoLineEnd", "a\nb", {"a", "b"}}, LineRow{"CrLf", "a\r\nb\r\n", {"a", "b"}},
+                    LineRow{"CrAtTheEnd", "a\nb\r", {"a", "b"}}, LineRow{"CrInside", "a\rb\n", {"a\rb"}},
+                    LineRow{"TwoCr", "a\r\r\n", {"a\r"}},
+                    LineRow{"Nul", std::string("a\0b\nc", 5), {std::string("a\0b", 3), "c"}}),
+    [](const auto& row) { return row.param.name; });
+
+// Every length around the block's, so that an end falls on each place of a block's edge.
+TEST(LineReader, KeepsLinesWholeAcrossBlocks) {
+    const std::size_t block = std::size_t{128} * 1024;
+    for (const std::string end : {"\n", "\r\n"}) {
+        for (std::size_t length = block - 4; length <= block + 4; ++length) {
+            const std::string first(length, 'a');
+            const std::string second(2 * block - 7, 'b');
+            const Lines lines = LinesOfText(first + end + second + end + "c" + end);
+            EXPECT_EQ(lines, (Lines{first, second, "c"})) << length;
+        }
+    }
+}
+
+TEST(LineReader, CutsLinesBeyondTheLimitWhereverTheyStand) {
+    for (const std::string end : {"\n", "\r\n", ""}) {
+        for (const std::size_t before : {std::size_t{0}, std::size_t{5}, kMax}) {
+            for (std::size_t length = kMax - 2; length <= kMax + 3; ++length) {
+                std::string text = before == 0 ? "" : std::string(before, 'x') + "\n";
+                text += std::string(length, 'a') + end;
+                Lines expected = before == 0 ? Lines{} : Lines{std::string(before, 'x')};
+                expected.push_back(length <= kMax ? std::string(length, 'a')
+                                                  : std::string(kMax, 'a') + "(cut)");
+                if (!end.empty()) {
+                    text += "b\n";
+                    expected.emplace_back("b");
+                }
+                EXPECT_TRUE(LinesOfText(text) == expected) << length << " after " << before;
+            }
+        }
+    }
+}
+
+TEST(LineReader, SkipsTheRestOfAVeryLongLine) {
+    const std::string text = std::string(5 * kMax + 123, 'a') + "\nb\n" + std::string(3 * kMax, 'c');
+    const Lines expected = {std::string(kMax, 'a') + "(cut)", "b", std::string(kMax, 'c') + "(cut)"};
+    EXPECT_TRUE(LinesOfText(text) == expected);
+}
+
+TEST(LineReader, ReadsPiecesAsTheyArriveThroughAPipe) {
+    Pipe pipe;
+    std::thread writer([&pipe] {
+        for (const std::string_view piece : {"20", "24-01", "-01\r", "\n\n2024", "-01-02\nlast"}) {
+            pipe.Write(piece);
+            std::this_thread::yield();
+        }
+        pipe.writing.Close();
+    });
+    EXPECT_EQ(LinesOf(pipe.reading.Number()), (Lines{"2024-01-01", "", "2024-01-02", "last"}));
+    writer.join();
+}
+
+bool HasInput(int descriptor, int milliseconds) {
+    pollfd question{descriptor, POLLIN, 0};
+    return poll(&question, 1, milliseconds) == 1;
+}
+
+TEST(LineReader, FlushesTheAnswersBeforeItWaitsAndNotBefore) {
+    Pipe input;
+    Pipe answers;
+    OutputStream output(answers.writing.Number());
+    LineReader reader(input.reading.Number(), output);
+    input.Write("a\nb\n");
+
+    std::string_view line;
+    ASSERT_TRUE(reader.Next(line));
+    output.Append("first\n");
+    ASSERT_TRUE(reader.Next(line));
+    output.Append("second\n");
+    EXPECT_FALSE(HasInput(answers.reading.Number(), 0));
+
+    std::thread waiting([&reader] {
+        std::string_view third;
+        EXPECT_TRUE(reader.Next(third));
+        EXPECT_EQ(third, "c");
+    });
+    EXPECT_TRUE(HasInput(answers.reading.Number(), 10000));
+    input.Write("c\n");
+    waiting.join();
+
+    char seen[64] = {};
+    EXPECT_EQ(read(answers.reading.Number(), seen, sizeof seen), 13);
+    EXPECT_STREQ(seen, "first\nsecond\n");
+}
+
+TEST(LineReader, TellsTheBytesItHasRead) {
+    const TemporaryFile file("a\nbc\n");
+    const TemporaryFile answers;
+    OutputStream output(answers.Number());
+    LineReader reader(file.Number(), output);
+    EXPECT_EQ(reader.BytesRead(), 0u);
+    std::string_view line;
+    ASSERT_TRUE(reader.Next(line));
+    EXPECT_EQ(reader.BytesRead(), 5u);
+}
+
+TEST(LineReader, TellsTheSystemsError) {
+    const Descriptor folder(open("/", O_RDONLY | O_CLOEXEC));
+    const TemporaryFile answers;
+    OutputStream output(answers.Number());
+    LineReader reader(folder.Number(), output);
+    std::string_view line;
+    EXPECT_FALSE(reader.Next(line));
+    EXPECT_EQ(reader.Error(), EISDIR);
+}
+
+}  // namespace
+}  // namespace calvoro
