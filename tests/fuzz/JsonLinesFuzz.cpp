@@ -1,0 +1,75 @@
+// Arbitrary bytes as lines of requests: every line gets one answer, which is one line of JSON with the keys
+// that belong to it, and the boxes it tells are accepted as a request again.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+
+#include "cli/JsonLines.h"
+#include "platform/Clock.h"
+#include "text/BuiltInProgramTexts.h"
+#include "text/ProgramTextFile.h"
+
+namespace {
+
+using nlohmann::ordered_json;
+
+void Require(bool condition) {
+    if (!condition) std::abort();
+}
+
+class ClockOfOneDay : public calvoro::Clock {
+public:
+    calvoro::LocalDate Today() const override { return {2024, 2, 29}; }
+};
+
+void CheckAnswer(const ordered_json& answer) {
+    constexpr std::array<std::string_view, 7> kKeys = {"first",    "difference", "second", "output",
+                                                       "messages", "unit",       "result"};
+    Require(answer.size() == kKeys.size());
+    std::size_t index = 0;
+    for (const auto& member : answer.items()) Require(member.key() == kKeys[index++]);
+    for (const char* key : {"first", "difference", "second", "output"}) Require(answer[key].is_string());
+    Require(answer["unit"] == "days" || answer["unit"] == "months");
+    Require(answer["result"].is_boolean() || answer["result"].is_null());
+    for (const ordered_json& message : answer["messages"]) {
+        Require(message.size() == 2 && message["title"].is_string() && message["text"].is_string());
+    }
+}
+
+void CheckLine(std::string_view line) {
+    const ClockOfOneDay clock;
+    std::string response;
+    const bool isRequest = calvoro::AnswerJsonLine(line, clock, response);
+    Require(response.find('\n') == std::string::npos);
+    const ordered_json answer = ordered_json::parse(response);
+    if (!isRequest) {
+        Require(answer.size() == 1 && answer["error"].is_string());
+        return;
+    }
+    CheckAnswer(answer);
+    const ordered_json again = {
+        {"first", answer["first"]}, {"difference", answer["difference"]}, {"second", answer["second"]}};
+    std::string secondResponse;
+    Require(calvoro::AnswerJsonLine(again.dump(), clock, secondResponse));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const bool loaded = calvoro::LoadProgramTextsFromMemory(calvoro::BuiltInProgramTexts()) > 0;
+    Require(loaded);
+    std::string lines(size, '\0');
+    for (std::size_t i = 0; i < size; ++i) lines[i] = static_cast<char>(data[i]);
+    std::string_view rest = lines;
+    for (;;) {
+        const std::size_t end = rest.find('\n');
+        CheckLine(rest.substr(0, end));
+        if (end == std::string_view::npos) return 0;
+        rest.remove_prefix(end + 1);
+    }
+}
