@@ -1,6 +1,6 @@
 #include "mainwindow/CalendarChange.h"
 
-#include "mainwindow/Blanks.h"
+#include "datetext/Blanks.h"
 #include "mainwindow/BoxDate.h"
 #include "mainwindow/ControlTables.h"
 
@@ -29,7 +29,7 @@ void CalendarChange::ChangeSecondDateCalendar(CalendarNumber newCalendar) {
 }
 
 void CalendarChange::Change(const Side& side, CalendarNumber newCalendar) {
-    boxes_.SetText(side.box, WithoutOuterBlanks(boxes_.Text(side.box)));
+    boxes_.SetText(side.box, TrimBlanks(boxes_.Text(side.box)));
     if (boxes_.Text(side.box).empty() || !state_.FormReady) {
         state_.*side.boxCalendar = newCalendar;
         boxes_.SetTheFocus();

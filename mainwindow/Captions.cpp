@@ -1,5 +1,6 @@
 #include "mainwindow/Captions.h"
 
+#include <algorithm>
 #include <array>
 
 #include "mainwindow/AccessibleNames.h"
@@ -55,23 +56,17 @@ constexpr std::array<CaptionRow<QCheckBox>, 5> kCheckBoxes = {{
     {&MainControls::chkSaveOutput, TextId::SaveResultsOnQuit},
 }};
 
-template <typename Rows, typename Action>
-void ForEachRow(const Rows& rows, const Action& action) {
-    for (const auto& row : rows) action(row);
-}
-
 void SetCaptionsWithKeys(const MainControls& controls, const Texts& texts) {
-    QStringList captions;
-    const auto collect = [&](const auto& row) { captions.push_back(ToQt(texts.Shown(row.text))); };
-    ForEachRow(kLabelsWithKeys, collect);
-    ForEachRow(kButtons, collect);
-    ForEachRow(kCheckBoxes, collect);
-
-    captions = WithMnemonics(captions);
-    const auto show = [&](const auto& row) { (controls.*row.control)->setText(captions.takeFirst()); };
-    ForEachRow(kLabelsWithKeys, show);
-    ForEachRow(kButtons, show);
-    ForEachRow(kCheckBoxes, show);
+    QList<QWidget*> withKeys;
+    const auto show = [&](const auto& row) {
+        QWidget* control = controls.*row.control;
+        SetCaption(*control, ToQt(texts.Shown(row.text)));
+        withKeys.push_back(control);
+    };
+    std::for_each(kLabelsWithKeys.begin(), kLabelsWithKeys.end(), show);
+    std::for_each(kButtons.begin(), kButtons.end(), show);
+    std::for_each(kCheckBoxes.begin(), kCheckBoxes.end(), show);
+    SetMnemonics(withKeys);
 }
 
 QString DateFormatCaption(const DateFormatOption& row, LanguageNumber language) {
@@ -113,8 +108,7 @@ void SetClickableCaptions(const MainControls& controls, const Texts& texts) {
 }  // namespace
 
 void SetCaptions(const MainControls& controls, const Texts& texts) {
-    ForEachRow(kLabels,
-               [&](const auto& row) { (controls.*row.control)->setText(ToQt(texts.Shown(row.text))); });
+    for (const auto& row : kLabels) (controls.*row.control)->setText(ToQt(texts.Shown(row.text)));
     SetCaptionsWithKeys(controls, texts);
     SetOptionCaptions(controls, texts);
     SetClickableCaptions(controls, texts);

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "mainwindow/Blanks.h"
+#include "datetext/Blanks.h"
 #include "windows/CrLfText.h"
 
 namespace calvoro {
@@ -66,7 +66,7 @@ void OutputBox::CopyToClipboard() {
 
 void OutputBox::Enlarge() {
     const std::string text = Text();
-    const std::string_view trimmed = WithoutOuterBlanks(text);
+    const std::string_view trimmed = TrimBlanks(text);
     if (trimmed.size() != text.size()) SetText(trimmed);
     if (trimmed.empty()) {
         platform_.boxes.Show(state_.texts.Shown(TextId::OutputWindowIsEmpty),

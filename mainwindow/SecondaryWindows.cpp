@@ -8,6 +8,7 @@
 #include "mainwindow/QtText.h"
 #include "mainwindow/frmClearOneTextBox.h"
 #include "platform/Twips.h"
+#include "windows/Placement.h"
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
@@ -68,9 +69,9 @@ void SecondaryWindows::ShowEnlarged(std::string_view output) {
     const QPoint corner = main.topLeft() + QPoint(TwipsToPixels(kEnlargedLeft), TwipsToPixels(kEnlargedTop));
     const QPoint inset(TwipsToPixels(kEnlargedInset), TwipsToPixels(kEnlargedInset));
     const QRect place(corner, main.bottomRight() - inset);
-    large_->move(place.topLeft());
     // The frame that the main window has is the frame that this window will have.
     large_->resize(place.size() - (main.size() - mainWindow_.size()));
+    MoveKeptOnScreen(*large_, place.topLeft());
 
     large_->setWindowTitle(ToQt(state_.texts.Shown(TextId::OutputWindow)));
     large_->Clear();
@@ -98,7 +99,6 @@ void SecondaryWindows::ShowMonth(std::int32_t year, std::int32_t month, Calendar
     if (!month_) {
         month_ = std::make_unique<frmDisplayMonth>(platform_, state_.texts, mainWindow_,
                                                    [this] { return state_.FormReady; });
-        month_->SetLanguageDependentText();
         month_->SetWeekStart(monthWeekStart_);
         month_->SetCalendar(monthCalendar_);
     }

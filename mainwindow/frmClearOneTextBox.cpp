@@ -2,7 +2,6 @@
 
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "mainwindow/QtText.h"
@@ -13,9 +12,9 @@
 namespace calvoro {
 namespace {
 
-// From the main window's top left corner.
-constexpr int kTopOffsetTwips = 2850;
-constexpr int kLeftOffsetTwips = 50;
+// Twips from the main window's top left corner.
+constexpr int kTopOffset = 2850;
+constexpr int kLeftOffset = 50;
 
 QRadioButton* MakeOption(QWidget* dialog, const char* name) {
     auto* option = new QRadioButton(dialog);
@@ -72,21 +71,18 @@ void frmClearOneTextBox::reject() {
 void frmClearOneTextBox::SetCaptions() {
     const auto shown = [this](TextId id) { return ToQt(texts_.Shown(id)); };
     setWindowTitle(shown(TextId::Clear));
-    const QStringList captions =
-        WithMnemonics({shown(TextId::FirstDate), shown(TextId::DateDifference), shown(TextId::SecondDate),
-                       shown(TextId::CancelThisOperation), shown(TextId::Continue)});
-    optClearFirstDate->setText(captions[0]);
-    optClearDateDiff->setText(captions[1]);
-    optClearSecondDate->setText(captions[2]);
-    optCancel->setText(captions[3]);
-    cmdContinue->setText(captions[4]);
+    SetCaption(*optClearFirstDate, shown(TextId::FirstDate));
+    SetCaption(*optClearDateDiff, shown(TextId::DateDifference));
+    SetCaption(*optClearSecondDate, shown(TextId::SecondDate));
+    SetCaption(*optCancel, shown(TextId::CancelThisOperation));
+    SetCaption(*cmdContinue, shown(TextId::Continue));
+    SetMnemonics({optClearFirstDate, optClearDateDiff, optClearSecondDate, optCancel, cmdContinue});
 }
 
 void frmClearOneTextBox::Place() {
     adjustSize();
-    const QPoint wanted = mainWindow_.frameGeometry().topLeft() +
-                          QPoint(TwipsToPixels(kLeftOffsetTwips), TwipsToPixels(kTopOffsetTwips));
-    move(KeptOnScreen(wanted, size(), mainWindow_.screen()->availableGeometry()));
+    MoveKeptOnScreen(*this, mainWindow_.frameGeometry().topLeft() +
+                                QPoint(TwipsToPixels(kLeftOffset), TwipsToPixels(kTopOffset)));
 }
 
 }  // namespace calvoro
