@@ -31,6 +31,7 @@ frmPopUp::frmPopUp(QWidget* opener)
     lblMessage->installEventFilter(this);
 
     Timer1->setSingleShot(true);
+    Timer1->setTimerType(Qt::PreciseTimer);
     connect(Timer1, &QTimer::timeout, this, &QDialog::reject);
 
     resize(TwipsToPixels(kDesignWidth), TwipsToPixels(kDesignHeight));
