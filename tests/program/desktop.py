@@ -1,0 +1,192 @@
+"""A display of its own for one test, and the keys and eyes of the person sitting before it."""
+
+import ctypes
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 60  # seconds until something that should happen is given up; a loaded machine is slow
+
+
+def wait_for(what, condition):
+    """Returns the first true value of condition(); fails when there is none in time."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.02)
+    raise AssertionError("waited in vain for " + what)
+
+
+class Desktop:
+    """An X server without window manager, and a home folder; both are gone after the with block."""
+
+    def __init__(self, program):
+        self.program = str(program)
+        self.started = []
+
+    def __enter__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="calvoro-desktop-"))
+        self.home = self.folder / "home"
+        self.home.mkdir()
+        (self.folder / "runtime").mkdir(mode=0o700)
+        read_end, write_end = os.pipe()
+        self.server = subprocess.Popen(
+            # Without -noreset the server starts anew when its last client leaves, and refuses the next
+            # one that comes in that moment.
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1000x24", "-nolisten", "tcp",
+             "-noreset"],
+            pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            number = pipe.readline().strip()  # ends when the server is ready, or empty when it failed
+        assert number, "Xvfb did not start"
+        self.display = ":" + number
+        return self
+
+    def __exit__(self, *_):
+        for process in self.started:
+            if process.poll() is None:
+                process.kill()
+                process.wait()
+        self.stop_server()
+        shutil.rmtree(self.folder)
+
+    def stop_server(self):
+        self.server.kill()
+        self.server.wait()
+
+    def environment(self):
+        kept = {name: value for name, value in os.environ.items()
+                if not name.startswith(("QT_", "XDG_", "LC_", "LANG", "WAYLAND_"))}
+        return kept | {"DISPLAY": self.display, "HOME": str(self.home), "LC_ALL": "C.UTF-8",
+                       "XDG_RUNTIME_DIR": str(self.folder / "runtime")}
+
+    # ---- the program
+
+    @property
+    def settings_file(self):
+        return self.home / ".config" / "Calvoro" / "calvoro.usr"
+
+    def put_settings(self, content):
+        self.settings_file.parent.mkdir(parents=True, exist_ok=True)
+        self.settings_file.write_bytes(content)
+
+    def launch(self, *, quiet=False, ignoring=None, **environment):
+        """Starts the program and returns at once.
+
+        quiet      drops what it says when its display goes away or it is ended while starting
+        ignoring   a signal that it starts with as ignored
+        """
+        process = subprocess.Popen(
+            [self.program], env=self.environment() | environment, stdin=subprocess.DEVNULL,
+            stderr=subprocess.DEVNULL if quiet else None,
+            preexec_fn=ignoring and (lambda: signal.signal(ignoring, signal.SIG_IGN)))
+        self.started.append(process)
+        return process
+
+    def start(self, **options):
+        """Starts the program and returns when its main window takes keys."""
+        process = self.launch(**options)
+        self.focus(self.main_window())
+        return process
+
+    def main_window(self):
+        return self.window(r"Calvoro 13\.0")
+
+    def end(self, process):
+        """Waits for the end of the program and returns its exit code."""
+        return process.wait(timeout=PATIENCE)
+
+    def quit(self, process):
+        """Presses Ctrl+Q in the main window, again while something modal is in its way."""
+        def ended():
+            for number, name in self.windows().items():
+                if name == "Calvoro 13.0":
+                    self.focus(number)
+                    self.keys("ctrl+q")
+            try:
+                process.wait(timeout=1)
+            except subprocess.TimeoutExpired:
+                return False
+            return True
+        wait_for("the program's end", ended)
+        return process.returncode
+
+    # ---- eyes and keys
+
+    def tool(self, *command):
+        return subprocess.run(command, env=self.environment(), capture_output=True, text=True, check=False)
+
+    def windows(self):
+        """The visible windows: number to title."""
+        numbers = self.tool("xdotool", "search", "--onlyvisible", "--name", ".*").stdout.split()
+        return {number: self.tool("xdotool", "getwindowname", number).stdout.rstrip("\n")
+                for number in numbers}
+
+    def window(self, title):
+        """Waits for the window whose whole title matches and returns its number."""
+        return wait_for(f"a window titled {title}", lambda: next(
+            (number for number, name in self.windows().items() if re.fullmatch(title, name)), None))
+
+    def focus(self, window):
+        """Gives a window the focus; a window that is just closing has none to take."""
+        # Taken away first: without a window manager the program is not told again, when its modal window
+        # has closed, that the window below has had the focus all the time. 1 is the server's "no window".
+        self.tool("xdotool", "windowfocus", "1")
+
+        def focused():
+            self.tool("xdotool", "windowfocus", window)
+            return (self.tool("xdotool", "getwindowfocus").stdout.strip() == window
+                    or window not in self.windows())
+        wait_for("the focus", focused)
+        time.sleep(0.1)  # the focus is the server's; the program hears of it a moment later
+
+    def size(self, window):
+        """Width and height of a window."""
+        geometry = self.tool("xdotool", "getwindowgeometry", "--shell", window).stdout
+        values = dict(line.split("=") for line in geometry.split())
+        return int(values["WIDTH"]), int(values["HEIGHT"])
+
+    def keys(self, *keys):
+        self.tool("xdotool", "key", "--delay", "20", *keys)
+
+    def type(self, text):
+        self.tool("xdotool", "type", "--delay", "10", text)
+
+    def clipboard(self):
+        return self.tool("xclip", "-o", "-selection", "clipboard").stdout
+
+    def close_from_frame(self, window):
+        """What a window manager does when the button in a window's frame is pressed."""
+        x11 = ctypes.CDLL("libX11.so.6")
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        x11.XInternAtom.restype = ctypes.c_ulong
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.display.encode()))
+        assert display, "the display cannot be opened"
+
+        class ClientMessage(ctypes.Structure):
+            _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("send_event", ctypes.c_int),
+                        ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
+                        ("message_type", ctypes.c_ulong), ("format", ctypes.c_int),
+                        ("data", ctypes.c_long * 5), ("padding", ctypes.c_long * 24)]
+
+        message = ClientMessage(type=33, display=display, window=int(window), format=32)
+        message.message_type = x11.XInternAtom(display, b"WM_PROTOCOLS", 0)
+        message.data[0] = x11.XInternAtom(display, b"WM_DELETE_WINDOW", 0)
+        x11.XSendEvent(display, ctypes.c_ulong(int(window)), 0, ctypes.c_long(0), ctypes.byref(message))
+        x11.XCloseDisplay(display)
+
+
+def settings_text(first="", difference="", second="", output="", language=0, formats="2,45,44",
+                  calendars="0,0,0", checks=(0, 1, 1, 1, 1), month=("Sun", "CE"), unit=0):
+    """The settings file with these values, as bytes."""
+    lines = [str(language), formats, calendars, *map(str, checks),
+             *(f'"{text}"' for text in (*month, first, difference, second, output)), str(unit)]
+    return "".join(line + "\r\n" for line in lines).encode()
