@@ -110,7 +110,7 @@ ArgumentsOutcome ReadComputeArguments(const std::vector<std::string>& words, Com
     AddToday(parser, request.today);
     parser.AddAction("--json", [&arguments] { arguments.json = true; });
     const ParsedArguments parsed = parser.Parse(words);
-    const ArgumentsOutcome outcome = RefuseOperandsFrom(0, parsed);
+    ArgumentsOutcome outcome = RefuseOperandsFrom(0, parsed);
     // Every request line brings its own settings.
     if (outcome.Runs() && arguments.json && words.size() > 1) return Fault("--json stands alone");
     return outcome;
@@ -124,7 +124,7 @@ ArgumentsOutcome ReadMonthArguments(const std::vector<std::string>& words, Month
     parser.AddAction("--with-year", [&arguments] { arguments.withYear = true; });
     AddChoice(parser, "--language", kShownLanguageChoices, arguments.language);
     const ParsedArguments parsed = parser.Parse(words);
-    const ArgumentsOutcome outcome = RefuseOperandsFrom(1, parsed);
+    ArgumentsOutcome outcome = RefuseOperandsFrom(1, parsed);
     if (!outcome.Runs()) return outcome;
     if (arguments.withYear && !arguments.iso) return Fault("--with-year goes with --iso only");
     if (arguments.iso && arguments.calendar == CalendarCode::J) return Fault("--iso needs --calendar CE");

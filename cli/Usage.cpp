@@ -3,9 +3,9 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "cli/ExitStatus.h"
 
@@ -25,7 +25,7 @@ int AnswerUsage(const ArgumentsOutcome& outcome, std::string_view command, std::
 }
 
 void PrintSystemError(std::string_view what, int error, Diagnostics& diagnostics) {
-    diagnostics.Print(std::string(what) + ": " + std::strerror(error));
+    diagnostics.Print(std::string(what) + ": " + std::generic_category().message(error));
 }
 
 int FinishOutput(OutputStream& output, int status, Diagnostics& diagnostics) {

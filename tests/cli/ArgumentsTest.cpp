@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <random>
 #include <set>
 #include <string>
 #include <string_view>
@@ -78,6 +79,36 @@ INSTANTIATE_TEST_SUITE_P(
                     CommandRow{"Today", kTodayHelp, 6,
                                [](const std::string& word) { return FaultOf(ReadTodayArguments, word); }}),
     [](const auto& row) { return row.param.name; });
+
+// Reading makes no sense of most of these, but ends well.
+TEST(Arguments, OfAnyKindAreReadOrRefused) {
+    const std::vector<std::string> pieces = {
+        "--from", "--to",     "--input=",      "CE",      "all",       "--",
+        "-",      "",         "--date-format", "=",       "--=",       "---",
+        "-=",     "--help=x", "--first",       "++",      "{}",        "[]",
+        "%%",     "--json",   "-h5",           "--tag=1", "--tag=yes", "-44-03",
+        "-5",     "-x=",      "--1",           "\xFF",    "a=b",       "--no-hyphen=false"};
+    std::mt19937 random(13);
+    int read = 0;
+    int refused = 0;
+    for (int round = 0; round < 5000; ++round) {
+        std::vector<std::string> words;
+        for (std::size_t count = random() % 6; count > 0; --count)
+            words.push_back(pieces[random() % pieces.size()]);
+        ConvertArguments convert;
+        ComputeArguments compute;
+        MonthArguments month;
+        TodayArguments today;
+        for (const ArgumentsOutcome& outcome :
+             {ReadConvertArguments(words, convert), ReadComputeArguments(words, compute),
+              ReadMonthArguments(words, month), ReadTodayArguments(words, today)}) {
+            read += outcome.Runs() ? 1 : 0;
+            refused += outcome.fault.empty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(read, 100);
+    EXPECT_GT(refused, 5000);
+}
 
 TEST(NotationChoices, AreTheNotationsInTheirFixedOrder) {
     ASSERT_EQ(kNotationChoices.size(), Notations().size());
