@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QPointer>
 #include <QSessionManager>
+#include <QTimer>
 #include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
@@ -91,6 +92,9 @@ int ShowWindow(QApplication& application) {
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, end);
     static const SaveAtExit saveAtExit(&window);
     window.Start();
+    // Reading a picture takes longer than all captions; nobody misses it before the window is painted.
+    QTimer::singleShot(0, &application,
+                       [] { QApplication::setWindowIcon(QIcon(QStringLiteral(":/calvoro.png"))); });
     return QApplication::exec();
 }
 
@@ -110,7 +114,6 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     guard.reset();
     QGuiApplication::setDesktopFileName(QStringLiteral("calvoro"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/calvoro.png")));
     UseToolkitWords(application);
     return ShowWindow(application);
 }
