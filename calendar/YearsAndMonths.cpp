@@ -42,8 +42,8 @@ void YearsAndDays(DateRecord& first, DateRecord& second, std::int32_t& years, st
     CheckedInt yearCount = CheckedInt(second.year) - first.year;
     CheckedInt dayCount = CheckedInt(secondDay) - firstDay;
     if (dayCount < 0) {
-        // Deliberate: one correction only, by the Common Era rule. Dates in different calendars may leave a
-        // negative count.
+        // Deliberate: one correction only, with the length of a Common Era year, so that a distance in or
+        // between other calendars may come out a day short.
         yearCount -= 1;
         dayCount += DaysInYear((CheckedInt(second.year) - 1).Value(), status);
     }
