@@ -1,26 +1,19 @@
 #pragma once
 
-// How the windows' controls are made: found by name, reached by keyboard.
+// How the windows' controls are made.
 
 #include <QLatin1String>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
 namespace calvoro {
 
+/// Gives a control the name by which it is found.
 template <typename Control>
 Control* Named(Control* control, const char* name) {
     control->setObjectName(QLatin1String(name));
     return control;
-}
-
-/// A push button that Enter presses when it has the focus, as the blank does.
-inline QPushButton* NewButton(const char* name, QWidget* parent) {
-    auto* button = Named(new QPushButton(parent), name);
-    button->setAutoDefault(true);
-    return button;
 }
 
 /// Makes a text box one to read, select and copy from, with a caret to be seen.

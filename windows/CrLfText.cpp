@@ -46,7 +46,7 @@ std::string SelectedCrLfText(const QPlainTextEdit& box) {
 }
 
 void SetCrLfText(QPlainTextEdit& box, std::string_view text) {
-    box.setPlainText(ToQString(text));
+    box.setPlainText(ToQt(text));
 }
 
 void AppendCrLfText(QPlainTextEdit& box, std::string_view text) {
@@ -56,7 +56,7 @@ void AppendCrLfText(QPlainTextEdit& box, std::string_view text) {
 
     QTextCursor end(box.document());
     end.movePosition(QTextCursor::End);
-    end.insertText(ToQString(text));
+    end.insertText(ToQt(text));
 
     // A caret that stood at the end has moved on with the text.
     if (box.textCursor().position() != positionBefore || box.textCursor().anchor() != anchorBefore) {

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "windows/CaptionButton.h"
 #include "windows/Controls.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
@@ -26,7 +27,7 @@ MonthControls::MonthControls(QWidget& window)
       cboMonths(Named(new QComboBox(&window), "cboMonths")),
       lblYear(Named(new QLabel(&window), "lblYear")),
       txbYear(Named(new QLineEdit(&window), "txbYear")),
-      cmdDisplay(NewButton("cmdDisplay", &window)),
+      cmdDisplay(Named(new CaptionButton(&window), "cmdDisplay")),
       txbMonth(Named(new FixedPitchBox(kMonthColumns, kLines, &window), "txbMonth")),
       fraCalendar(Named(new QGroupBox(&window), "fraCalendar")),
       optCommonEra(Named(new QRadioButton(fraCalendar), "optCommonEra")),
@@ -34,12 +35,12 @@ MonthControls::MonthControls(QWidget& window)
       fraFirstDayOfWeek(Named(new QGroupBox(&window), "fraFirstDayOfWeek")),
       optSunday(Named(new QRadioButton(fraFirstDayOfWeek), "optSunday")),
       optMonday(Named(new QRadioButton(fraFirstDayOfWeek), "optMonday")),
-      cmdDisplayNextMonth{NewButton("cmdDisplayNextMonth0", &window),
-                          NewButton("cmdDisplayNextMonth1", &window)},
-      cmdCopyToClipboard(NewButton("cmdCopyToClipboard", &window)),
-      cmdShowHideISO(NewButton("cmdShowHideISO", &window)),
+      cmdDisplayNextMonth{Named(new CaptionButton(&window), "cmdDisplayNextMonth0"),
+                          Named(new CaptionButton(&window), "cmdDisplayNextMonth1")},
+      cmdCopyToClipboard(Named(new CaptionButton(&window), "cmdCopyToClipboard")),
+      cmdShowHideISO(Named(new CaptionButton(&window), "cmdShowHideISO")),
       chkWithYear(Named(new QCheckBox(&window), "chkWithYear")),
-      cmdClose(NewButton("cmdClose", &window)),
+      cmdClose(Named(new CaptionButton(&window), "cmdClose")),
       txbISODates(Named(new FixedPitchBox(kIsoColumns, kLines, &window), "txbISODates")),
       window_(window) {
     lblMonth->setBuddy(cboMonths);
@@ -52,7 +53,7 @@ MonthControls::MonthControls(QWidget& window)
 }
 
 void MonthControls::SetCaptions(const Texts& texts) {
-    const auto shown = [&texts](TextId id) { return ToQString(texts.Shown(id)); };
+    const auto shown = [&texts](TextId id) { return ToQt(texts.Shown(id)); };
     const auto weekdays = ShownWeekdayNames(texts.InterfaceLanguage);
 
     SetCaption(*lblMonth, shown(TextId::Month));
@@ -62,8 +63,8 @@ void MonthControls::SetCaptions(const Texts& texts) {
     SetCaption(*optCommonEra, shown(TextId::CommonEra));
     SetCaption(*optJulian, shown(TextId::Julian));
     fraFirstDayOfWeek->setTitle(shown(TextId::FirstDayOfWeek));
-    SetCaption(*optSunday, ToQString(weekdays[0]));
-    SetCaption(*optMonday, ToQString(weekdays[1]));
+    SetCaption(*optSunday, ToQt(weekdays[0]));
+    SetCaption(*optMonday, ToQt(weekdays[1]));
     SetCaption(*cmdDisplayNextMonth[0], shown(TextId::DisplayNextMonth));
     SetCaption(*cmdDisplayNextMonth[1], shown(TextId::DisplayPreviousMonth));
     SetCaption(*cmdCopyToClipboard, shown(TextId::CopyToClipboard));
@@ -83,7 +84,7 @@ void MonthControls::FillMonths(const Texts& texts) {
     const int chosen = std::max(0, cboMonths->currentIndex());
     cboMonths->clear();
     for (std::int32_t month = 0; month < 12; ++month) {
-        cboMonths->addItem(ToQString(ShownMonthName(texts.InterfaceLanguage, month)));
+        cboMonths->addItem(ToQt(ShownMonthName(texts.InterfaceLanguage, month)));
     }
     cboMonths->setCurrentIndex(chosen);
 }
@@ -113,7 +114,6 @@ void MonthControls::Arrange() {
     heading->addWidget(cboMonths);
     heading->addWidget(lblYear);
     heading->addWidget(txbYear, 1);
-    heading->addWidget(cmdDisplay);
 
     auto* calendars = new QVBoxLayout(fraCalendar);
     calendars->addWidget(optCommonEra);
@@ -136,7 +136,8 @@ void MonthControls::Arrange() {
     iso->addStretch(1);
 
     auto* grid = new QGridLayout(&window_);
-    grid->addLayout(heading, 0, 0, 1, 2);
+    grid->addLayout(heading, 0, 0);
+    grid->addWidget(cmdDisplay, 0, 1);
     grid->addWidget(txbMonth, 1, 0);
     grid->addLayout(options, 1, 1);
     grid->addLayout(steps, 2, 0);

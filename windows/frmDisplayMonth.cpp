@@ -41,14 +41,14 @@ frmDisplayMonth::frmDisplayMonth(const Platform& platform, Texts& texts, QWidget
 
     ui_.FillMonths(texts);
     ui_.SetCaptions(texts);
-    ui_.SetIsoCaption(ToQString(texts.Numbered(kDisplayIsoText)));
+    ui_.SetIsoCaption(ToQt(texts.Numbered(kDisplayIsoText)));
     ConnectControls();
     new WindowActivation(*this, [this] { OnActivated(); });
 }
 
 void frmDisplayMonth::ShowMonth(std::string_view year, std::int32_t month, CalendarNumber calendar) {
     ChooseMonth(month - 1);
-    ui_.txbYear->setText(ToQString(year));
+    ui_.txbYear->setText(ToQt(year));
     Choose(*(calendar == CalendarNumber::JC ? ui_.optJulian : ui_.optCommonEra));
 
     if (!isVisible()) {
@@ -155,7 +155,7 @@ void frmDisplayMonth::ConnectControls() {
 }
 
 void frmDisplayMonth::OnActivated() {
-    setWindowTitle(ToQString(texts_.Shown(TextId::DisplayMonth)));
+    setWindowTitle(ToQt(texts_.Shown(TextId::DisplayMonth)));
     texts_.TextLanguage = texts_.InterfaceLanguage;
     ui_.FillMonths(texts_);
     if (!ui_.optSunday->isChecked()) Choose(*ui_.optMonday);
@@ -206,7 +206,7 @@ void frmDisplayMonth::UpdateIsoButton() {
 }
 
 void frmDisplayMonth::OnShowHideISO() {
-    ui_.SetIsoCaption(ToQString(texts_.Numbered(isoShown_ ? kDisplayIsoText : kHideIsoText)));
+    ui_.SetIsoCaption(ToQt(texts_.Numbered(isoShown_ ? kDisplayIsoText : kHideIsoText)));
     isoShown_ = !isoShown_;
     ui_.SetIsoBoxShown(isoShown_);
     if (isoShown_) ShowIsoDates();
@@ -234,7 +234,7 @@ void frmDisplayMonth::OnDisplayNextMonth(int index) {
             PleaseSpecifyYear();
             return;
         }
-        ui_.txbYear->setText(ToQString(*year));
+        ui_.txbYear->setText(ToQt(*year));
     }
     ChooseMonth((month + 12) % 12);
     DisplayMonth();
@@ -247,7 +247,7 @@ void frmDisplayMonth::ChooseMonth(int index) {
 }
 
 void frmDisplayMonth::TrimYear() {
-    ui_.txbYear->setText(ToQString(TrimmedBlanks(ui_.txbYear->text().toStdString())));
+    ui_.txbYear->setText(ToQt(TrimmedBlanks(ui_.txbYear->text().toStdString())));
 }
 
 void frmDisplayMonth::StepYear(int years) {
@@ -258,7 +258,7 @@ void frmDisplayMonth::StepYear(int years) {
         PleaseSpecifyYear();
         return;
     }
-    ui_.txbYear->setText(ToQString(*year));
+    ui_.txbYear->setText(ToQt(*year));
     DisplayMonth();
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/Twips.h"
+#include "windows/CaptionButton.h"
 #include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/Mnemonics.h"
@@ -36,7 +37,7 @@ frmHelp::frmHelp(const Texts& texts, const HelpAddresses& addresses, QWidget& ma
       mainWindow_(mainWindow),
       helpText_(FillHelpText(addresses)),
       txbMsg(Named(new QPlainTextEdit(this), "txbMsg")),
-      cmdClose(NewButton("cmdClose", this)) {
+      cmdClose(Named(new CaptionButton(this), "cmdClose")) {
     setObjectName(QStringLiteral("frmHelp"));
     setAttribute(Qt::WA_QuitOnClose, false);
 
@@ -74,11 +75,11 @@ void frmHelp::closeEvent(QCloseEvent* event) {
 }
 
 void frmHelp::OnActivated() {
-    setWindowTitle(QStringLiteral("Calvoro ") + ToQString(texts_.Shown(TextId::Help)));
+    setWindowTitle(QStringLiteral("Calvoro ") + ToQt(texts_.Shown(TextId::Help)));
     const std::string& text = helpText_[static_cast<std::size_t>(texts_.InterfaceLanguage)];
     ShowText(text.empty() ? helpText_[LanguageEnglish] : text);
-    txbMsg->setAccessibleName(ToQString(texts_.Shown(TextId::Help)));
-    SetCaption(*cmdClose, WithMnemonics({ToQString(texts_.Shown(TextId::Close))}).first());
+    txbMsg->setAccessibleName(ToQt(texts_.Shown(TextId::Help)));
+    SetCaption(*cmdClose, WithMnemonics({ToQt(texts_.Shown(TextId::Close))}).first());
     if (!isMinimized() && !isMaximized()) ArrangeControls(kHeightAroundActivated);
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/Twips.h"
+#include "windows/CaptionButton.h"
 #include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/FixedPitchBox.h"
@@ -45,8 +46,8 @@ frmLargeDisplay::frmLargeDisplay(const Platform& platform, const Texts& texts)
     : clipboard_(platform.clipboard),
       texts_(texts),
       txbOutput(Named(new QPlainTextEdit(this), "txbOutput")),
-      cmdCopyToClipboard(NewButton("cmdCopyToClipboard", this)),
-      cmdClose(NewButton("cmdClose", this)) {
+      cmdCopyToClipboard(Named(new CaptionButton(this), "cmdCopyToClipboard")),
+      cmdClose(Named(new CaptionButton(this), "cmdClose")) {
     setObjectName(QStringLiteral("frmLargeDisplay"));
     setAttribute(Qt::WA_QuitOnClose, false);
 
@@ -106,7 +107,7 @@ void frmLargeDisplay::WidenDisplayIfNeeded(std::string_view text, std::int16_t c
     const int widest = static_cast<int>(screenShare * place.width());
     if (buffer_.Overflowed() || width() >= widest) return;
 
-    const qsizetype length = ToQString(text).size();
+    const qsizetype length = ToQt(text).size();
     const qsizetype needed = length * characterWidth / kTwipsPerPixel;
     if (width() >= needed) return;
     resize(static_cast<int>(std::min<qsizetype>(widest, needed)), height());
@@ -125,7 +126,7 @@ void frmLargeDisplay::DisplayArray(const std::vector<std::string>& texts, std::s
 
 void frmLargeDisplay::Form_Activate() {
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
-    txbOutput->setAccessibleName(ToQString(texts_.Shown(TextId::OutputWindow)));
+    txbOutput->setAccessibleName(ToQt(texts_.Shown(TextId::OutputWindow)));
     SetCopyToClipboardButton();
     SetCopyButtonWidth(4000, 2000);
     activated_ = true;

@@ -95,7 +95,7 @@ bool frmPopUp::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmPopUp::SetMessage(std::string_view message) {
-    lblMessage->setText(ToQString(message));
+    lblMessage->setText(ToQt(message));
     setAccessibleName(lblMessage->text());
 }
 

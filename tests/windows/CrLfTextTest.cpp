@@ -28,7 +28,7 @@ private Q_SLOTS:
         SetCrLfText(box, text.toStdString());
         QCOMPARE(CrLfLength(box), length);
         QCOMPARE(CrLfText(box), text.toStdString());
-        QCOMPARE(ToQString(CrLfText(box)).size(), length);
+        QCOMPARE(ToQt(CrLfText(box)).size(), length);
     }
 
     void ReadsLineFeedsAsLineBreaks() {

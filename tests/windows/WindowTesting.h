@@ -23,7 +23,7 @@ namespace QTest {
 /// Lets a comparison of texts show them when they differ.
 template <>
 inline char* toString(const std::string& text) {
-    return toString(calvoro::ToQString(text));
+    return toString(calvoro::ToQt(text));
 }
 
 }  // namespace QTest

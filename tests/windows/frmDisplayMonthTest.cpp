@@ -52,7 +52,7 @@ private Q_SLOTS:
         const auto row = [](const char* name, const char* year, int month, CalendarNumber calendar,
                             WeekStart weekStart, std::initializer_list<std::string_view> lines) {
             QTest::newRow(name) << QString::fromLatin1(year) << month << (calendar == CalendarNumber::JC)
-                                << (weekStart == WeekStart::Monday) << ToQString(Lines(lines));
+                                << (weekStart == WeekStart::Monday) << ToQt(Lines(lines));
         };
         row("September2024MondayFirst", "2024", 9, CalendarNumber::CE, WeekStart::Monday,
             {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  26   27   28   29   30   31    1  ",
@@ -111,7 +111,7 @@ private Q_SLOTS:
         MonthWindow shown;
         shown.window.SetWeekStart(monday ? WeekStart::Monday : WeekStart::Sunday);
         shown.ShowMonth(year.toStdString(), month, julian ? CalendarNumber::JC : CalendarNumber::CE);
-        QCOMPARE(ToQString(shown.Grid()), grid);
+        QCOMPARE(ToQt(shown.Grid()), grid);
         QVERIFY(shown.fake.Settled());
     }
 
