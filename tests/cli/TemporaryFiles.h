@@ -37,9 +37,8 @@ private:
 class TemporaryFile {
 public:
     explicit TemporaryFile(std::string_view contents = {}) : file_(std::tmpfile()) {
-        if (file_ == nullptr || std::fwrite(contents.data(), 1, contents.size(), file_) != contents.size()) {
-            std::abort();
-        }
+        if (file_ == nullptr) std::abort();
+        for (const char character : contents) std::fputc(character, file_);
         std::rewind(file_);
     }
     TemporaryFile(const TemporaryFile&) = delete;
