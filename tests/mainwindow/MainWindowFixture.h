@@ -50,8 +50,14 @@ public:
     void Start() {
         window = std::make_unique<frmMain>(fake.platform, Addresses());
         window->Start();
+        Activate();
+    }
+
+    /// Makes the window the active one, as a window manager does when another one closes.
+    void Activate() {
         window->activateWindow();
-        if (!QTest::qWaitForWindowActive(window.get())) qFatal("the window does not become active");
+        const auto isActive = [this] { return QApplication::activeWindow() == window.get(); };
+        if (!QTest::qWaitFor(isActive)) qFatal("the window does not become active");
     }
 
     void StartWith(const Settings& settings) {
@@ -125,14 +131,16 @@ public:
     std::vector<ShownMessage>& Shown() { return fake.boxes.shown; }
 };
 
-/// What the user does while a modal window waits; runs as soon as one is up.
+/// What the user does while a modal window waits; runs as soon as one has the focus.
 template <typename Action>
 void WhileModal(Action action) {
-    QTimer::singleShot(0, qApp, [action] {
-        if (QApplication::activeModalWidget() == nullptr) {
+    constexpr int kMillisecondsBetweenLooks = 5;
+    QTimer::singleShot(kMillisecondsBetweenLooks, qApp, [action] {
+        QWidget* const modal = QApplication::activeModalWidget();
+        if (modal == nullptr || QApplication::activeWindow() != modal) {
             WhileModal(action);
         } else {
-            action(*QApplication::activeModalWidget());
+            action(*modal);
         }
     });
 }
