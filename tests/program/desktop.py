@@ -27,8 +27,9 @@ def wait_for(what, condition):
 class Desktop:
     """An X server without window manager, and a home folder; both are gone after the with block."""
 
-    def __init__(self, program):
+    def __init__(self, program, size="1280x1000"):
         self.program = str(program)
+        self.screen = size + "x24"
         self.started = []
 
     def __enter__(self):
@@ -40,7 +41,7 @@ class Desktop:
         self.server = subprocess.Popen(
             # Without -noreset the server starts anew when its last client leaves, and refuses the next
             # one that comes in that moment.
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1280x1000x24", "-nolisten", "tcp",
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.screen, "-nolisten", "tcp",
              "-noreset"],
             pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write_end)
