@@ -27,10 +27,13 @@ def wait_for(what, condition):
 class Desktop:
     """An X server without window manager, and a home folder; both are gone after the with block."""
 
-    def __init__(self, program, size="1280x1000"):
+    def __init__(self, program, window_keys=None, size="1280x1000"):
+        """window_keys is the program that tells which keys press the buttons."""
         self.program = str(program)
+        self.window_keys = window_keys and str(window_keys)
         self.screen = size + "x24"
         self.started = []
+        self.button_keys = {}
 
     def __enter__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="calvoro-desktop-"))
@@ -160,6 +163,13 @@ class Desktop:
 
     def type(self, text):
         self.tool("xdotool", "type", "--delay", "10", text)
+
+    def press(self, button):
+        """Presses a button of the window that has the focus, as "frmMain.cmdEnlarge", by its key in English."""
+        if not self.button_keys:
+            listed = self.tool(self.window_keys, "-platform", "offscreen").stdout
+            self.button_keys = dict(line.split() for line in listed.splitlines())
+        self.keys("alt+" + self.button_keys[button])
 
     def clipboard(self):
         return self.tool("xclip", "-o", "-selection", "clipboard").stdout

@@ -1,0 +1,55 @@
+// Prints the key that presses each button of the main window and the month window, as "frmMain.cmdEnlarge g"
+// a line: keys are given out by the windows themselves, and the tests that drive the program from outside
+// must not guess them. An argument, the number of a language, chooses whose keys.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeySequence>
+#include <QWidget>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include "mainwindow/SettingsFile.h"
+#include "mainwindow/frmMain.h"
+#include "tests/support/FakePlatform.h"
+#include "text/ProgramText.h"
+
+namespace {
+
+using namespace calvoro;
+
+void PrintKeys(const QWidget& window) {
+    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        const QString key = QKeySequence::mnemonic(button->text()).toString().section(u'+', -1).toLower();
+        if (key.isEmpty() || button->objectName().isEmpty()) continue;
+        std::printf("%s.%s %s\n", qPrintable(window.objectName()), qPrintable(button->objectName()),
+                    qPrintable(key));
+    }
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const QApplication application(argc, argv);
+    if (!LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat").empty()) return EXIT_FAILURE;
+
+    FakePlatform fakes;
+    std::string folder = (std::filesystem::temp_directory_path() / "calvoro-keys-XXXXXX").string();
+    if (::mkdtemp(folder.data()) == nullptr) return EXIT_FAILURE;
+    fakes.place.folder = folder;
+    Settings settings;
+    settings.interfaceLanguage = static_cast<LanguageNumber>(argc > 1 ? std::atoi(argv[1]) : 0);
+    WriteSettingsFile(SettingsFilePath(folder, GetProgramText(310, LanguageEnglish)), settings);
+    {
+        frmMain window(fakes.platform, {});
+        window.Start();
+        window.findChild<QAbstractButton*>(QStringLiteral("cmdDisplayMonth"))->click();
+        QApplication::processEvents();
+        for (const QWidget* shown : QApplication::topLevelWidgets()) {
+            if (shown->isVisible()) PrintKeys(*shown);
+        }
+    }
+    std::filesystem::remove_all(folder);
+    return EXIT_SUCCESS;
+}
