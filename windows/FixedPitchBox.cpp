@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontMetrics>
+#include <QScrollBar>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
@@ -42,8 +43,10 @@ QSize FixedPitchBox::minimumSizeHint() const {
 QSize FixedPitchBox::SizeFor(int lines) const {
     const QFontMetricsF metrics(font());
     const double around = 2 * (document()->documentMargin() + frameWidth());
-    // One more pixel each way for the caret behind the last column and for rounding of line heights.
-    const double width = columns_ * metrics.horizontalAdvance(QLatin1Char('0')) + around + 1;
+    // A vertical scroll bar must not make a horizontal one necessary. One more pixel each way is for the
+    // caret behind the last column and for rounding of line heights.
+    const double columns = columns_ * metrics.horizontalAdvance(QLatin1Char('0'));
+    const double width = columns + verticalScrollBar()->sizeHint().width() + around + 1;
     const double height = lines * std::ceil(metrics.lineSpacing()) + around + 1;
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
 }

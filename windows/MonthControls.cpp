@@ -1,7 +1,7 @@
 #include "windows/MonthControls.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QList>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -94,77 +94,76 @@ void MonthControls::SetIsoCaption(const QString& caption) {
     UpdateMnemonics();
 }
 
+QSize MonthControls::FirstSize() const {
+    const QMargins margins = window_.layout()->contentsMargins();
+    const int isoWidth = margins.left() + txbISODates->sizeHint().width() + margins.right();
+    const QSize size = window_.sizeHint().expandedTo(QSize(isoWidth, 0));
+    return size.boundedTo(window_.screen()->availableSize());
+}
+
 void MonthControls::SetIsoBoxShown(bool shown) {
     if (txbISODates->isHidden() != shown) return;
-    auto* layout = static_cast<QGridLayout*>(window_.layout());
     const int boxHeight = shown ? txbISODates->sizeHint().height() : -txbISODates->height();
-    const int spacing = shown ? layout->verticalSpacing() : -layout->verticalSpacing();
-    const int wanted = window_.height() + boxHeight + spacing;
+    const int spacing = window_.layout()->spacing();
+    const int wanted = window_.height() + boxHeight + (shown ? spacing : -spacing);
 
+    const int most = window_.screen()->availableSize().height();
+
+    // The window is higher than it needs to be in between, never lower: a box that is squeezed would get
+    // scroll bars.
+    if (shown) window_.resize(window_.width(), std::min(wanted, most));
     txbISODates->setVisible(shown);
-    layout->activate();  // the window's least height follows at once
-    window_.resize(window_.width(), std::min(wanted, window_.screen()->availableSize().height()));
+    window_.layout()->activate();
+    window_.resize(window_.width(), std::min(wanted, most));
     if (shown && window_.isVisible()) MoveKeptOnScreen(window_, window_.pos());
 }
 
-// Rows from top to bottom; whatever else has rows of its own is to the right of the month.
+// From top to bottom: which month, how it is shown, the month beside its buttons, the ISO week dates.
 void MonthControls::Arrange() {
     auto* heading = new QHBoxLayout;
     heading->addWidget(lblMonth);
     heading->addWidget(cboMonths);
     heading->addWidget(lblYear);
     heading->addWidget(txbYear, 1);
+    heading->addWidget(cmdDisplay);
 
-    auto* calendars = new QVBoxLayout(fraCalendar);
-    calendars->addWidget(optCommonEra);
-    calendars->addWidget(optJulian);
-    auto* weekStarts = new QVBoxLayout(fraFirstDayOfWeek);
-    weekStarts->addWidget(optSunday);
-    weekStarts->addWidget(optMonday);
-    auto* options = new QVBoxLayout;
-    options->addWidget(fraCalendar);
-    options->addWidget(fraFirstDayOfWeek);
-    options->addStretch(1);
+    auto* calendars = new QHBoxLayout(fraCalendar);
+    for (QRadioButton* option : {optCommonEra, optJulian}) calendars->addWidget(option, 1);
+    auto* weekStarts = new QHBoxLayout(fraFirstDayOfWeek);
+    for (QRadioButton* option : {optSunday, optMonday}) weekStarts->addWidget(option, 1);
+    auto* options = new QHBoxLayout;
+    options->addWidget(fraCalendar, 1);
+    options->addWidget(fraFirstDayOfWeek, 1);
 
-    auto* steps = new QHBoxLayout;
-    steps->addWidget(cmdDisplayNextMonth[1]);
-    steps->addWidget(cmdDisplayNextMonth[0]);
-    steps->addStretch(1);
+    auto* buttons = new QVBoxLayout;
+    for (QPushButton* button :
+         {cmdDisplayNextMonth[1], cmdDisplayNextMonth[0], cmdCopyToClipboard, cmdClose}) {
+        buttons->addWidget(button);
+    }
+    buttons->addStretch(1);
+    auto* month = new QHBoxLayout;
+    month->addWidget(txbMonth, 1);
+    month->addLayout(buttons);
+
     auto* iso = new QHBoxLayout;
     iso->addWidget(cmdShowHideISO);
     iso->addWidget(chkWithYear);
     iso->addStretch(1);
 
-    auto* grid = new QGridLayout(&window_);
-    grid->addLayout(heading, 0, 0);
-    grid->addWidget(cmdDisplay, 0, 1);
-    grid->addWidget(txbMonth, 1, 0);
-    grid->addLayout(options, 1, 1);
-    grid->addLayout(steps, 2, 0);
-    grid->addWidget(cmdCopyToClipboard, 2, 1);
-    grid->addLayout(iso, 3, 0);
-    grid->addWidget(cmdClose, 3, 1);
-    grid->addWidget(txbISODates, 4, 0, 1, 2);
-    grid->setColumnStretch(0, 1);
-    grid->setRowStretch(1, 1);
-    grid->setRowStretch(4, 1);
+    auto* rows = new QVBoxLayout(&window_);
+    rows->addLayout(heading);
+    rows->addLayout(options);
+    rows->addLayout(month);
+    rows->addLayout(iso);
+    rows->addWidget(txbISODates);
 
-    const std::array<QWidget*, 15> readingOrder = {cboMonths,
-                                                   txbYear,
-                                                   cmdDisplay,
-                                                   txbMonth,
-                                                   optCommonEra,
-                                                   optJulian,
-                                                   optSunday,
-                                                   optMonday,
-                                                   cmdDisplayNextMonth[1],
-                                                   cmdDisplayNextMonth[0],
-                                                   cmdCopyToClipboard,
-                                                   cmdShowHideISO,
-                                                   chkWithYear,
-                                                   cmdClose,
-                                                   txbISODates};
-    for (std::size_t i = 1; i < readingOrder.size(); ++i) {
+    // clang-format off
+    const QList<QWidget*> readingOrder = {
+        cboMonths, txbYear, cmdDisplay, optCommonEra, optJulian, optSunday, optMonday, txbMonth,
+        cmdDisplayNextMonth[1], cmdDisplayNextMonth[0], cmdCopyToClipboard, cmdClose,
+        cmdShowHideISO, chkWithYear, txbISODates};
+    // clang-format on
+    for (qsizetype i = 1; i < readingOrder.size(); ++i) {
         QWidget::setTabOrder(readingOrder[i - 1], readingOrder[i]);
     }
 }

@@ -29,6 +29,9 @@ struct MonthControls {
 
     void SetIsoCaption(const QString& caption);
 
+    /// The size to show the window with: wide enough for the ISO box, which may come later.
+    QSize FirstSize() const;
+
     /// Shows or hides the ISO box. The window grows and shrinks by it, so that the rest keeps its size.
     void SetIsoBoxShown(bool shown);
 

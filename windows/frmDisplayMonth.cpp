@@ -1,7 +1,6 @@
 #include "windows/frmDisplayMonth.h"
 
 #include <QCloseEvent>
-#include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <utility>
@@ -52,7 +51,7 @@ void frmDisplayMonth::ShowMonth(std::string_view year, std::int32_t month, Calen
     Choose(*(calendar == CalendarNumber::JC ? ui_.optJulian : ui_.optCommonEra));
 
     if (!isVisible()) {
-        if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(screen()->availableSize()));
+        if (!testAttribute(Qt::WA_Resized)) resize(ui_.FirstSize());
         const QPoint offset(TwipsToPixels(kRightOfMainWindow), TwipsToPixels(kBelowMainWindow));
         MoveKeptOnScreen(*this, mainWindow_.frameGeometry().topLeft() + offset, FrameSize(mainWindow_));
     }

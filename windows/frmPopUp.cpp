@@ -106,6 +106,7 @@ void frmPopUp::Place(std::int16_t width, std::int16_t height, int top, int left)
 }
 
 void frmPopUp::ShowFor(std::int16_t interval) {
+    Timer1->stop();
     if (interval > 0) Timer1->start(interval);
     exec();
 }

@@ -1,4 +1,6 @@
+#include <QApplication>
 #include <QDialog>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTimer>
@@ -49,11 +51,13 @@ private Q_SLOTS:
     void ShowsAndHidesTheColumn() {
         September month;
         const int height = month.window.height();
+        const int width = month.window.width();
         month.ShowIso();
         QVERIFY(month.IsoBoxShown());
         QCOMPARE(month.IsoCaption(), QStringLiteral("Hide ISO Week dates"));
         QCOMPARE(month.IsoDates(), kIsoDates);
         QVERIFY(month.window.height() > height);
+        QCOMPARE(month.window.width(), width);
 
         month.ShowIso();
         QVERIFY(!month.IsoBoxShown());
@@ -61,15 +65,40 @@ private Q_SLOTS:
         QCOMPARE(month.window.height(), height);
     }
 
-    void ShowsTheColumnWithoutScrollBars() {
-        September month;
-        month.ShowIso();
+    void ShowsEverythingWithoutScrollBars_data() {
+        QTest::addColumn<int>("pointSize");
+        QTest::addColumn<int>("language");
+        for (const int pointSize : {9, 12, 18}) {
+            QTest::addRow("English %d", pointSize) << pointSize << int{LanguageEnglish};
+            QTest::addRow("German %d", pointSize) << pointSize << int{LanguageGerman};
+        }
+    }
+
+    void ShowsEverythingWithoutScrollBars() {
+        QFETCH(const int, pointSize);
+        QFETCH(const int, language);
+        const auto restore = qScopeGuard([font = QApplication::font()] { QApplication::setFont(font); });
+        QFont sized = QApplication::font();
+        sized.setPointSize(pointSize);
+        QApplication::setFont(sized);
+
+        MonthWindow month;
+        month.texts.InterfaceLanguage = static_cast<LanguageNumber>(language);
+        month.window.SetLanguageDependentText();
+        month.window.SetWeekStart(WeekStart::Monday);
+        month.ShowMonth("2024", 9);
+        ClickOn(month.Button("cmdShowHideISO"));
         QCoreApplication::processEvents();
         for (const char* name : {"txbMonth", "txbISODates"}) {
             const auto& box = month.Of<QPlainTextEdit>(name);
             QVERIFY2(!box.horizontalScrollBar()->isVisible(), name);
             QVERIFY2(!box.verticalScrollBar()->isVisible(), name);
         }
+        for (const QAbstractButton* button : month.window.findChildren<QAbstractButton*>()) {
+            QVERIFY2(button->width() >= button->sizeHint().width(), qPrintable(button->text()));
+        }
+        const QSize least = month.window.minimumSizeHint();
+        QVERIFY(least.width() <= 1024 && least.height() <= 600);
     }
 
     void TheWindowWithTheColumnStaysOnTheScreen() {
@@ -309,18 +338,12 @@ private Q_SLOTS:
         CheckAccessibleNames(month.window);
         QCOMPARE(month.Year().accessibleName(), QStringLiteral("Year"));
         QCOMPARE(month.Months().accessibleName(), QStringLiteral("Month"));
-        const QStringList order = {QStringLiteral("cboMonths"),
-                                   QStringLiteral("txbYear"),
-                                   QStringLiteral("cmdDisplay"),
-                                   QStringLiteral("txbMonth"),
-                                   QStringLiteral("optCommonEra"),
-                                   QStringLiteral("optMonday"),
-                                   QStringLiteral("cmdDisplayNextMonth1"),
-                                   QStringLiteral("cmdDisplayNextMonth0"),
-                                   QStringLiteral("cmdCopyToClipboard"),
-                                   QStringLiteral("cmdShowHideISO"),
-                                   QStringLiteral("chkWithYear"),
-                                   QStringLiteral("cmdClose")};
+        const QStringList order =
+            QStringLiteral(
+                "cboMonths txbYear cmdDisplay optCommonEra optMonday txbMonth cmdDisplayNextMonth1 "
+                "cmdDisplayNextMonth0 cmdCopyToClipboard cmdClose cmdShowHideISO chkWithYear txbISODates")
+                .split(QLatin1Char(' '));
+        month.ShowIso();
         QCOMPARE(TabOrderFrom(month.Months()), order);
         month.Button("cmdDisplayNextMonth0").setFocus();
         QTest::keyClick(&month.Button("cmdDisplayNextMonth0"), Qt::Key_Return);
