@@ -1,7 +1,5 @@
 #include "datetext/EuroDateText.h"
 
-#include <algorithm>
-
 #include "calendar/AnnusNovus.h"
 #include "calendar/DayNumber.h"
 #include "calendar/EuroDate.h"

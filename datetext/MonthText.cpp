@@ -1,6 +1,6 @@
 #include "datetext/MonthText.h"
 
-#include <algorithm>
+#include <initializer_list>
 
 #include "calendar/CheckedInt.h"
 #include "calendar/EuroDate.h"

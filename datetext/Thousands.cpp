@@ -35,10 +35,9 @@ std::string ThousandsText(std::string_view number, char separator) {
 }
 
 std::string ThousandsText(std::int32_t number, char separator) {
-    char digits[kNumberRoom];
-    char* const end = std::to_chars(digits, digits + kNumberRoom - 1, number).ptr;
-    *end = '\0';
-    if (separator == kNoSeparator) return std::string(digits, end);
+    char digits[kNumberRoom] = {};
+    std::to_chars(digits, digits + kNumberRoom - 1, number);
+    if (separator == kNoSeparator) return digits;
     char buffer[kThousandsBufferSize];
     separate_thousands(digits, static_cast<unsigned char>(separator), buffer);
     return buffer;
