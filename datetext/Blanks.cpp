@@ -1,5 +1,7 @@
 #include "datetext/Blanks.h"
 
+#include "datetext/KeepCharacters.h"
+
 namespace calvoro {
 
 std::string_view TrimBlanks(std::string_view text) {
@@ -9,11 +11,7 @@ std::string_view TrimBlanks(std::string_view text) {
 }
 
 std::string WithoutBlanks(std::string_view text) {
-    std::string kept;
-    for (const char c : text) {
-        if (c != ' ') kept.push_back(c);
-    }
-    return kept;
+    return KeepCharacters(text, [](char c) { return c != ' '; });
 }
 
 }  // namespace calvoro

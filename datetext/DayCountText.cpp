@@ -4,6 +4,7 @@
 
 #include "datetext/Blanks.h"
 #include "datetext/Digits.h"
+#include "datetext/KeepCharacters.h"
 
 namespace calvoro {
 
@@ -27,10 +28,7 @@ ParseStatus ParseDayCount(std::string_view text, std::int32_t& number) {
     if (!IsDigits(text, true, true)) return ParseStatus::NotValid;
     const bool negative = text.front() == '-';
 
-    std::string digits;
-    for (const char c : text) {
-        if (IsDigit(c)) digits.push_back(c);
-    }
+    const std::string digits = KeepCharacters(text, IsDigit);
 
     // Deliberate: digits are counted, leading zeros included, and ten of them must begin below 21. So
     // 2,100,000,000 itself is out of range although a day number may reach it.

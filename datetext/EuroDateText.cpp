@@ -1,11 +1,14 @@
 #include "datetext/EuroDateText.h"
 
+#include <algorithm>
+
 #include "calendar/AnnusNovus.h"
 #include "calendar/DayNumber.h"
 #include "calendar/EuroDate.h"
 #include "datetext/Blanks.h"
 #include "datetext/DayNumberText.h"
 #include "datetext/Digits.h"
+#include "datetext/KeepCharacters.h"
 #include "datetext/StrToDate.h"
 #include "datetext/Thousands.h"
 
@@ -14,31 +17,18 @@ namespace {
 
 constexpr std::int32_t kLargestPlainYear = 9999;
 
-/// What remains of a typed date, and the counts that tell whether its shape can be a date's.
-struct KeptText {
-    std::string text;
-    std::size_t minuses = 0;
-    std::size_t separators = 0;
-};
-
 // Deliberate: characters that cannot be part of a date are dropped without a word, so that a date pasted
 // with its tag, its parentheses or its thousands separators reads.
-KeptText KeepDateCharacters(std::string_view text, char separator) {
-    KeptText kept;
-    for (const char c : text) {
-        if (!IsDigit(c) && c != '-' && c != separator) continue;
-        kept.text.push_back(c);
-        if (c == '-') ++kept.minuses;
-        if (c == separator) ++kept.separators;
-    }
-    return kept;
+std::string KeepDateCharacters(std::string_view text, char separator) {
+    return KeepCharacters(text, [separator](char c) { return IsDigit(c) || c == '-' || c == separator; });
 }
 
 // Deliberate: with "-" as separator a third "-" is allowed anywhere; str_to_date finds out whether it is
 // the sign of the year.
-bool HasDateShape(const KeptText& kept, char separator) {
-    if (separator == '-') return kept.minuses == 2 || kept.minuses == 3;
-    return kept.minuses <= 1 && kept.separators == 2;
+bool HasDateShape(std::string_view text, char separator) {
+    const auto minuses = std::count(text.begin(), text.end(), '-');
+    if (separator == '-') return minuses == 2 || minuses == 3;
+    return minuses <= 1 && std::count(text.begin(), text.end(), separator) == 2;
 }
 
 CalendarCode CodeForReading(CalendarNumber tag) {
@@ -65,7 +55,7 @@ DateFormat FormatForReading(CalendarNumber tag, DateFormat dateFormat) {
 }
 
 void AppendYear(std::string& text, const DateRecord& record, char thousandsSeparator) {
-    const bool plain = record.calendar == CalendarCode::A || thousandsSeparator == '\0' ||
+    const bool plain = record.calendar == CalendarCode::A || thousandsSeparator == kNoSeparator ||
                        (record.year <= kLargestPlainYear && record.year >= -kLargestPlainYear);
     if (plain) {
         AppendNumber(text, record.year);
@@ -94,7 +84,7 @@ ParseStatus ParseDateText(std::string_view text, char separator, CalendarNumber 
                           DateRecord& record) {
     if (tag == CalendarNumber::JDN) return ParseDayNumberDate(WithoutBlanks(text), separator, record);
 
-    const KeptText kept = KeepDateCharacters(text, separator);
+    const std::string kept = KeepDateCharacters(text, separator);
     if (!HasDateShape(kept, separator)) return ParseStatus::NotValid;
 
     // Deliberate: the year that the record brings along is tested, and before the text is split. A zeroed
@@ -103,7 +93,7 @@ ParseStatus ParseDateText(std::string_view text, char separator, CalendarNumber 
 
     const auto code = static_cast<std::int32_t>(CodeForReading(tag));
     const auto order = static_cast<std::int32_t>(FormatForReading(tag, dateFormat));
-    const std::int32_t result = str_to_date(kept.text, order, record, code);
+    const std::int32_t result = str_to_date(kept, order, record, code);
     if (result == kStrToDateYearOutOfRange) return ParseStatus::OutOfRange;
     if (result != kStrToDateOk) return ParseStatus::NotValid;
 

@@ -5,6 +5,7 @@
 
 #include "calendar/DayNumber.h"
 #include "datetext/Digits.h"
+#include "datetext/KeepCharacters.h"
 
 namespace calvoro {
 namespace {
@@ -24,11 +25,7 @@ constexpr bool FitsAField(std::int32_t value) {
 
 // Deliberate: every other character is dropped without a word, so that years come in with any grouping.
 std::string KeepDigitsAndHyphens(std::string_view text) {
-    std::string kept;
-    for (const char c : text) {
-        if (IsDigit(c) || c == '-') kept.push_back(c);
-    }
-    return kept;
+    return KeepCharacters(text, [](char c) { return IsDigit(c) || c == '-'; });
 }
 
 ParseStatus SplitLeapWeekText(std::string_view typed, LeapWeekFields& fields) {
