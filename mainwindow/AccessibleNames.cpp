@@ -62,6 +62,10 @@ void SetAccessibleNames(const MainControls& controls, const Texts& texts) {
     controls.Frame3->setAccessibleName(joined(shown(TextId::FirstDate), calendar));
     controls.Frame4->setAccessibleName(joined(shown(TextId::SecondDate), calendar));
 
+    // A comma alone says little.
+    for (QAbstractButton* option : controls.thousandsSeparators->buttons()) {
+        option->setAccessibleName(joined(shown(TextId::ThousandsSeparator), option->text()));
+    }
     // The caption goes on in the label behind it.
     controls.chkHyphen->setAccessibleName(shown(TextId::HyphenInOrdinalAnd) + QLatin1Char(' ') +
                                           shown(TextId::InISOWeekDates));

@@ -3,8 +3,6 @@
 
 #include <QRadioButton>
 
-#include "mainwindow/Hyphens.h"
-#include "mainwindow/frmClearOneTextBox.h"
 #include "tests/mainwindow/MainWindowFixture.h"
 
 using namespace calvoro;
