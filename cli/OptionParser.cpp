@@ -38,7 +38,8 @@ OptionParser::OptionParser() : implementation_(std::make_unique<Implementation>(
     // Operands are collected as extras, which leaves their texts untouched; as values of a list they would
     // lose brackets.
     implementation_->app.allow_extras();
-    implementation_->app.set_version_flag("--version", "");
+    implementation_->app.set_version_flag("--version", "")->disable_flag_override();
+    implementation_->app.get_help_ptr()->disable_flag_override();
 }
 
 OptionParser::~OptionParser() = default;

@@ -133,6 +133,8 @@ INSTANTIATE_TEST_SUITE_P(
                     FaultRow{"MissingValue", {"--value"}, "--value needs a value"},
                     FaultRow{"ValueForAFlag", {"--flag=maybe"}, "--flag takes no value"},
                     FaultRow{"FalseForAFlag", {"--flag=false"}, "--flag takes no value"},
+                    FaultRow{"ValueForHelp", {"--help=convert"}, "--help takes no value"},
+                    FaultRow{"ValueForVersion", {"--version=2"}, "--version takes no value"},
                     FaultRow{"RefusedValue", {"--odd", "ab"}, "--odd must be odd"},
                     FaultRow{"ControlCharacters", {"--\x1B[2J"}, "unknown option '--\\x1B[2J'"}),
     [](const auto& row) { return row.param.name; });
