@@ -109,7 +109,7 @@ INSTANTIATE_TEST_SUITE_P(
         RefusedStepCase{"LPW", kLPW, "2021-10-8", 1, FirstDateNotValid, SecondDateNotValid},
         RefusedStepCase{"CEOutOfRange", kCE, "5800001-01-01", 1, FirstDateOutOfRange, SecondDateOutOfRange},
         RefusedStepCase{"ISOOutOfRange", kISO, "5800000-W01-1", 1, FirstDateOutOfRange, SecondDateOutOfRange},
-        RefusedStepCase{"LPWBeyond32Bits", kLPW, "99999999-01-1", 1, FirstDateOutOfRange,
+        RefusedStepCase{"LPWOutOfRange", kLPW, "99999999-01-1", 1, FirstDateOutOfRange,
                         SecondDateOutOfRange}),
     [](const auto& row) { return row.param.name; });
 

@@ -187,6 +187,24 @@ INSTANTIATE_TEST_SUITE_P(
         FindCase{"FirstDateIncludedAfterOverflow", Search::Second, 2100000000, 47483648, true, true, 0}),
     [](const auto& row) { return row.param.name; });
 
+TEST(FindDate, LeavesTheRecordAloneWhenAStepLeaves32Bits) {
+    // With the first date included the last step would lead back into 32 bits.
+    FakeComputeWindow window;
+    ComputeState state;
+    state.options.includeFirstDate = true;
+    state.FirstDateRecord.jdn = 2100000000;
+    state.SecondDateRecord.jdn = 7;
+    state.DateDifference = 47483648;
+    EXPECT_FALSE(FindSecondDate(window, state));
+    EXPECT_EQ(state.SecondDateRecord.jdn, 7);
+
+    state.SecondDateRecord.jdn = -2100000000;
+    state.FirstDateRecord.jdn = 7;
+    state.DateDifference = 47483649;
+    EXPECT_FALSE(FindFirstDate(window, state));
+    EXPECT_EQ(state.FirstDateRecord.jdn, 7);
+}
+
 bool IsWorkingDay(std::int32_t day) {
     return ((day - kMonday) % 7 + 7) % 7 < 5;
 }

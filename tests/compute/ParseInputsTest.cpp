@@ -144,7 +144,7 @@ INSTANTIATE_TEST_SUITE_P(
                     RefusedCase{"LPM", CalendarNumber::LPM, "2021-13-01", false},
                     RefusedCase{"LPMOutOfRange", CalendarNumber::LPM, "2021-99999-01", true},
                     RefusedCase{"LPW", CalendarNumber::LPW, "2021-10-8", false},
-                    RefusedCase{"LPWBeyond32Bits", CalendarNumber::LPW, "99999999-01-1", true},
+                    RefusedCase{"LPWOutOfRange", CalendarNumber::LPW, "99999999-01-1", true},
                     RefusedCase{"EndlessDayNumber", CalendarNumber::JDN, std::string(10'000, '9'), true},
                     RefusedCase{"Empty", CalendarNumber::CE, "", false}),
     [](const auto& row) { return row.param.name; });
