@@ -53,6 +53,9 @@ struct TodayArguments {
     LanguageNumber language = LanguageEnglish;
 };
 
+/// Each reads the words behind the name of its command.
+/// arguments  freshly made; what the words do not tell stays as it is
+/// returns    whether the command runs with them
 ArgumentsOutcome ReadConvertArguments(const std::vector<std::string>& words, ConvertArguments& arguments);
 ArgumentsOutcome ReadComputeArguments(const std::vector<std::string>& words, ComputeArguments& arguments);
 ArgumentsOutcome ReadMonthArguments(const std::vector<std::string>& words, MonthArguments& arguments);

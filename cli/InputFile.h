@@ -8,6 +8,7 @@ namespace calvoro {
 /// A file opened for reading by the name the user gave it; "-" is the standard input, which is not closed.
 class InputFile {
 public:
+    /// name  a path, or "-"
     explicit InputFile(const std::string& name);
     ~InputFile();
     InputFile(const InputFile&) = delete;

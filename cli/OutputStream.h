@@ -18,6 +18,7 @@ public:
     OutputStream(const OutputStream&) = delete;
     OutputStream& operator=(const OutputStream&) = delete;
 
+    /// Adds bytes of any number to the output.
     void Append(std::string_view text) {
         if (text.size() > kBlockSize - used_) return AppendLong(text);
         text.copy(block_.get() + used_, text.size());

@@ -16,7 +16,10 @@ class ComputeWindow {
 public:
     virtual ~ComputeWindow() = default;
 
+    /// The text of a box as it stands, blanks included.
     virtual std::string InputText(InputBox box) const = 0;
+
+    /// Replaces the text of a box, without what typing in it would do.
     virtual void SetInputText(InputBox box, std::string_view text) = 0;
 
     /// Every option as it stands now; asked once a click.
@@ -41,6 +44,7 @@ public:
     /// Chooses days as the unit of the difference, with all that a click on that option does.
     virtual void SwitchToDays() = 0;
 
+    /// Puts the cursor where the user goes on; the last step of a click, and of each routine that computes.
     virtual void SetTheFocus() = 0;
 
 protected:

@@ -18,7 +18,10 @@ struct Texts {
     LanguageNumber TextLanguage =
         LanguageEnglish;  // numbered texts; follows when the month window is activated
 
+    /// A named text in the language of the interface.
     std::string_view Shown(TextId id) const { return ShownText(id, InterfaceLanguage); }
+
+    /// A numbered text in its own language; "" when there is none.
     std::string Numbered(std::int16_t number) const { return GetProgramText(number, TextLanguage); }
 };
 
