@@ -50,6 +50,8 @@ INSTANTIATE_TEST_SUITE_P(
                       ReadRow{"GroupedYear", "-5,754,317-11-1", -5'754'317, 11, 1, -2'100'000'000},
                       ReadRow{"YearGroupedByNarrowBlanks", "-5\u202f754\u202f317-11-1", -5'754'317, 11, 1,
                               -2'100'000'000},
+                      ReadRow{"LargestYear", "5800000-01-1", 5'800'000, 1, 1, 2120127555},
+                      ReadRow{"SmallestYear", "-5800000-01-1", -5'800'000, 1, 1, -2116685445},
                       ReadRow{"LastWeekOfALeapYear", "2020-53-7", 2020, 53, 7, 2459211}),
     RowName<ReadRow>);
 

@@ -281,6 +281,13 @@ TEST(DrawIsoWeekDates, ShowsTheFinalDigitOfAnyYear) {
     EXPECT_EQ(firstDate(12345), "5-");
 }
 
+TEST(DrawIsoWeekDates, TrimsTheEndOfTheHeadingWithTheYearOnly) {
+    WeekdayWords words = kEnglish;
+    words[0] = "";
+    EXPECT_EQ(DrawIsoWeekDates(0, 0, true, words), "       M        T        W        T        F        S");
+    EXPECT_EQ(DrawIsoWeekDates(0, 0, false, words), " Mon    Tue    Wed    Thu    Fri    Sat       ");
+}
+
 TEST(DrawIsoWeekDates, IsAHeadingAloneWithoutWeekLines) {
     EXPECT_EQ(DrawIsoWeekDates(0, 0, false, kEnglish), " Mon    Tue    Wed    Thu    Fri    Sat    Sun   ");
 }
