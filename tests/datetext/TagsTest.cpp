@@ -1,5 +1,6 @@
 #include "datetext/Tags.h"
 
+#include "datetext/TextOptions.h"
 #include "tests/datetext/TextRows.h"
 
 namespace calvoro {
@@ -90,6 +91,18 @@ TEST(FiveDayWeekNames, AreSix) {
     const std::array<std::string_view, 6> expected{"Intercalarius", "Primidi",  "Secundi",
                                                    "Tertidi",       "Quartidi", "Quintidi"};
     EXPECT_EQ(FiveDayWeekNames(), expected);
+}
+
+TEST(TextOptions, BeginWithYearFirstHyphensAndCommas) {
+    const TextOptions options;
+    EXPECT_EQ(options.dateFormat, DateFormat::YMD);
+    EXPECT_EQ(options.dateSeparator, '-');
+    EXPECT_EQ(options.thousandsSeparator, ',');
+    EXPECT_TRUE(options.hyphen);
+    EXPECT_EQ(options.digitGrouping, ",");
+    EXPECT_EQ(static_cast<int>(DateFormat::MDY), 0);
+    EXPECT_EQ(static_cast<int>(DateFormat::DMY), 1);
+    EXPECT_EQ(static_cast<int>(DateFormat::YMD), 2);
 }
 
 }  // namespace
