@@ -13,8 +13,9 @@ enum class ClickOutcome {
     NoResult,  // an input was refused or the result is out of range
 };
 
-/// One Compute click. Every effect reaches the window in the order in which it is described by the texts:
-/// accepted boxes are rewritten before a later input is looked at.
+/// One Compute click. Every effect reaches the window at once, in its turn: an accepted box is rewritten
+/// before a later input is looked at, and a message is shown before what follows it.
+/// state  overwritten where the computation sets it; untouched when the click stops before
 ClickOutcome cmdCompute_Click(ComputeWindow& window, ComputeState& state);
 
 }  // namespace calvoro
