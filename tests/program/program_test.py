@@ -97,8 +97,7 @@ class ProgramTexts(unittest.TestCase):
         process = desktop.launch()
         box = wait_for("the message box", lambda: next(iter(desktop.windows()), None))
         self.assertNotIn("Calvoro 13.0", desktop.windows().values())
-        desktop.focus(box)
-        desktop.keys("Return")
+        desktop.dismiss(box)
         self.assertEqual(desktop.end(process), 1)
         self.assertFalse(desktop.settings_file.exists(), "no settings are saved")
 
@@ -225,8 +224,7 @@ class Session(unittest.TestCase):
     def test_a_link_without_a_browser_ends_in_a_message(self):
         process = self.desktop.start(PATH=str(self.desktop.folder))
         self.press_the_makers_name()
-        self.desktop.focus(self.desktop.window("Cannot launch web browser"))
-        self.desktop.keys("Return")
+        self.desktop.dismiss(self.desktop.window("Cannot launch web browser"))
         self.quit(process)
 
     def test_up_and_down_step_a_date(self):
