@@ -4,7 +4,9 @@
 
 #include <cstdlib>
 #include <string>
+#include <thread>
 
+#include "tests/cli/Interruptions.h"
 #include "tests/cli/TemporaryFiles.h"
 
 namespace calvoro {
@@ -18,6 +20,21 @@ TEST(Diagnostics, PrintsMessagesOneALine) {
     diagnostics.Print("something");
     diagnostics.PrintLine("Error! else");
     EXPECT_EQ(messages.Contents(), "calvoro-cli: something\nError! else\n");
+}
+
+TEST(Diagnostics, PrintOnWhenASignalInterruptsThem) {
+    Pipe pipe;
+    const std::string message(1'000'000, 'x');  // more than a pipe holds
+    const Interruptions interruptions;
+    std::string received;
+    std::thread reader([&] {
+        Interruptions::Await(20);
+        received = pipe.ReadToTheEnd();
+    });
+    Diagnostics(pipe.writing.Number()).PrintLine(message);
+    pipe.writing.Close();
+    reader.join();
+    EXPECT_TRUE(received == message + "\n");
 }
 
 TEST(Diagnostics, DrawsTheShareReadOverTheLastDrawing) {

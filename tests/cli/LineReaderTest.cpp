@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 
 #include <cerrno>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "tests/cli/Interruptions.h"
 #include "tests/cli/TemporaryFiles.h"
 
 namespace calvoro {
@@ -109,6 +111,36 @@ TEST(LineReader, ReadsPiecesAsTheyArriveThroughAPipe) {
         pipe.writing.Close();
     });
     EXPECT_EQ(LinesOf(pipe.reading.Number()), (Lines{"2024-01-01", "", "2024-01-02", "last"}));
+    writer.join();
+}
+
+int UnreadBytes(int descriptor) {
+    int bytes = -1;
+    EXPECT_EQ(ioctl(descriptor, FIONREAD, &bytes), 0);
+    return bytes;
+}
+
+TEST(LineReader, TakesACrAtTheLimitForPartOfALineEndStillToCome) {
+    Pipe pipe;
+    std::thread writer([&pipe] {
+        pipe.Write(std::string(kMax, 'a') + "\r");
+        while (UnreadBytes(pipe.reading.Number()) > 0) std::this_thread::yield();
+        pipe.Write("\nb\n");
+        pipe.writing.Close();
+    });
+    EXPECT_TRUE(LinesOf(pipe.reading.Number()) == (Lines{std::string(kMax, 'a'), "b"}));
+    writer.join();
+}
+
+TEST(LineReader, ReadsOnWhenASignalInterruptsIt) {
+    Pipe pipe;
+    const Interruptions interruptions;
+    std::thread writer([&pipe] {
+        Interruptions::Await(20);
+        pipe.Write("a\nb\n");
+        pipe.writing.Close();
+    });
+    EXPECT_EQ(LinesOf(pipe.reading.Number()), (Lines{"a", "b"}));
     writer.join();
 }
 

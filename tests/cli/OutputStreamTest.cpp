@@ -6,7 +6,9 @@
 #include <cerrno>
 #include <csignal>
 #include <string>
+#include <thread>
 
+#include "tests/cli/Interruptions.h"
 #include "tests/cli/TemporaryFiles.h"
 
 namespace calvoro {
@@ -44,6 +46,24 @@ TEST(OutputStream, KeepsOrderAcrossBlocksAndSizes) {
     EXPECT_TRUE(file.Contents() == expected);
     EXPECT_FALSE(output.HasFailed());
     EXPECT_EQ(output.Error(), 0);
+}
+
+TEST(OutputStream, WritesOnWhenASignalInterruptsIt) {
+    Pipe pipe;
+    const std::string text(8 * OutputStream::kBlockSize, 'x');  // more than a pipe holds
+    const Interruptions interruptions;
+    std::string received;
+    std::thread reader([&] {
+        Interruptions::Await(20);
+        received = pipe.ReadToTheEnd();
+    });
+    OutputStream output(pipe.writing.Number());
+    output.Append(text);
+    output.Flush();
+    pipe.writing.Close();
+    reader.join();
+    EXPECT_EQ(output.Error(), 0);
+    EXPECT_TRUE(received == text);
 }
 
 TEST(OutputStream, RemembersThatTheDiskIsFull) {

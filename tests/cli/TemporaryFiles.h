@@ -75,6 +75,16 @@ public:
         }
     }
 
+    /// Everything that is written until the writing end is closed.
+    std::string ReadToTheEnd() const {
+        std::string text;
+        char block[4096];
+        for (ssize_t got = 0; (got = read(reading.Number(), block, sizeof block)) > 0;) {
+            text.append(block, static_cast<std::size_t>(got));
+        }
+        return text;
+    }
+
 private:
     struct Made {
         int ends[2] = {-1, -1};
