@@ -53,7 +53,10 @@ public:
         return NarrowToInt32(std::int64_t{a.value_} * b.value_);
     }
     friend constexpr CheckedInt operator-(CheckedInt a) { return CheckedInt(0) - a; }
-    friend constexpr auto operator<=>(CheckedInt a, CheckedInt b) = default;
+    friend constexpr bool operator==(CheckedInt a, CheckedInt b) = default;
+    friend constexpr std::strong_ordering operator<=>(CheckedInt a, CheckedInt b) {
+        return a.value_ <=> b.value_;
+    }
 
 private:
     std::int32_t value_ = 0;

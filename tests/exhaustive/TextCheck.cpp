@@ -13,7 +13,7 @@ namespace {
 constexpr std::array<DateFormat, 3> kFormats{DateFormat::YMD, DateFormat::DMY, DateFormat::MDY};
 constexpr std::array<char, 3> kDateSeparators{'-', '/', '.'};
 constexpr std::array<char, 3> kThousandsSeparators{',', '.', kNoSeparator};
-constexpr std::int64_t kWaysOfWriting = 3 * 3 * 3 * 2;
+constexpr std::int64_t kWaysOfWriting = 54;  // 3 * 3 * 3 * 2
 
 /// Each way of writing in turn.
 TextOptions OptionsFor(std::int64_t index) {
