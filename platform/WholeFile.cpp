@@ -52,6 +52,18 @@ bool FlushToDisk(int file) {
     return ::fsync(file) == 0 || errno == EINVAL;
 }
 
+/// Two instances that a session's end closes at the same moment take turns: both use the same temporary
+/// name, so that a killed one leaves no litter that the next does not clean up. A turn takes milliseconds;
+/// who waits for longer, or has a file system without locks, goes ahead.
+void TakeTurn(int folder) {
+    constexpr int kAttempts = 200;
+    constexpr useconds_t kPause = 10'000;  // microseconds
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        if (::flock(folder, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
+        ::usleep(kPause);
+    }
+}
+
 bool WriteNewFile(const std::string& path, std::string_view content, const struct stat* old) {
     Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0666));
     if (!file.IsOpen()) return false;
@@ -79,7 +91,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path) {
     if (!file.IsOpen() || ::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode)) return {};
 
     std::string content;
-    std::array<char, 65536> block;
+    std::array<char, 65536> block{};
     for (;;) {
         const ssize_t got = ::read(file.Number(), block.data(), block.size());
         if (got < 0 && errno == EINTR) continue;
@@ -93,10 +105,7 @@ bool ReplaceWholeFile(const std::string& path, std::string_view content) {
     const std::string target = WithLinksResolved(path);
     const Descriptor folder(::open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder.IsOpen()) return false;
-    // Two instances that a session's end closes at the same moment take turns: both use the same temporary
-    // name, so that a killed one leaves no litter that the next does not clean up. Where the file system
-    // knows no locks the turn is taken for granted.
-    ::flock(folder.Number(), LOCK_EX);
+    TakeTurn(folder.Number());
 
     struct stat old {};
     const bool replaces = ::stat(target.c_str(), &old) == 0;

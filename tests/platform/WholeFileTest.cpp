@@ -1,6 +1,8 @@
 #include "platform/WholeFile.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -168,6 +170,15 @@ TEST_F(WholeFile, IsWholeWhenTwoWriteAtOnce) {
         EXPECT_EQ(status, 0);
     }
     EXPECT_EQ(Names(), kOnlyTheFile);
+}
+
+TEST_F(WholeFile, IsWrittenAllTheSameWhenSomeoneElseKeepsTheFolderLocked) {
+    const int folder = ::open(folder_.c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_GE(folder, 0);
+    ASSERT_EQ(::flock(folder, LOCK_EX), 0);
+    EXPECT_TRUE(ReplaceWholeFile(path_, "x"));
+    ::close(folder);
+    EXPECT_EQ(ReadWholeFile(path_), "x");
 }
 
 }  // namespace
