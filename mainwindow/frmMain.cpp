@@ -138,7 +138,7 @@ void frmMain::Start() {
 
 // Wide enough for a result line with its breakdown, and no larger than the screen.
 QSize frmMain::FirstSize() const {
-    constexpr int kCharactersInResultLine = 120;
+    constexpr int kCharactersInResultLine = 140;
     const int width = fontMetrics().averageCharWidth() * kCharactersInResultLine;
     const QSize screenSize = screen()->availableSize();
     return sizeHint().expandedTo({width, 0}).boundedTo(screenSize);
@@ -298,6 +298,7 @@ void frmMain::ApplySettings(const Settings& settings) {
     boxes_.SetText(InputBox::Difference, settings.dateDiff);
     boxes_.SetText(InputBox::SecondDate, settings.secondDate);
     output_.SetText(settings.output);
+    output_.ScrollToEnd();
 }
 
 }  // namespace calvoro

@@ -31,7 +31,7 @@ private Q_SLOTS:
         QCOMPARE(main.Focused(), focus);
     }
 
-    void ADateFormatShowsItsExamplesAndEmptiesTheBoxes_data() {
+    void ADateFormatShowsItsExamplesAndDeliberatelyEmptiesTheBoxes_data() {
         QTest::addColumn<QString>("option");
         QTest::addColumn<QStringList>("captions");
         QTest::addColumn<QString>("today");
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QTest::newRow("MDY") << "optDateFormatIsMDY" << QStringList{"12-31-2012", "12/31/2012", "12.31.2012"}
                              << "Today is Friday, 11-20-2026 CE" << 0;
     }
-    void ADateFormatShowsItsExamplesAndEmptiesTheBoxes() {
+    void ADateFormatShowsItsExamplesAndDeliberatelyEmptiesTheBoxes() {
         QFETCH(QString, option);
         QFETCH(QStringList, captions);
         QFETCH(QString, today);
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(static_cast<int>(main.window->UsersDateFormat()), number);
     }
 
-    void ADateSeparatorEmptiesTheBoxesAndIsUsed_data() {
+    void ADateSeparatorDeliberatelyEmptiesTheBoxesAndIsUsed_data() {
         QTest::addColumn<QString>("option");
         QTest::addColumn<QString>("today");
         QTest::newRow("dash") << "optSeparatorIsDash"
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTest::newRow("dot") << "optSeparatorIsDot"
                              << "Today is Friday, 2026.11.20 CE";
     }
-    void ADateSeparatorEmptiesTheBoxesAndIsUsed() {
+    void ADateSeparatorDeliberatelyEmptiesTheBoxesAndIsUsed() {
         QFETCH(QString, option);
         QFETCH(QString, today);
         MainWindowFixture main;

@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(Caption(*next), u"Folgender Monat zeigen"_s);
     }
 
-    void NumberedTextsAreGermanOnlyAfterTheMonthWindowWasOpenedInGerman() {
+    void NumberedTextsDeliberatelyLagUntilTheMonthWindowIsActivated() {
         MainWindowFixture main;
         main.Start();
         main.Click(u"optLanguageIsGerman"_s);

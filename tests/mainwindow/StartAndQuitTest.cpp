@@ -83,6 +83,16 @@ private Q_SLOTS:
         QCOMPARE(main.Selected(u"txbFirstDate"_s), u"2024-03-15"_s);
     }
 
+    void TheEndOfTheSavedOutputIsSeen() {
+        MainWindowFixture main;
+        Settings settings;
+        for (int line = 0; line < 200; ++line) settings.output += "a result\r\n";
+        main.StartWith(settings);
+        const auto& output = main.Get<QPlainTextEdit>(u"txbOutput"_s);
+        QTRY_VERIFY(output.viewport()->rect().contains(output.cursorRect()));
+        QVERIFY(output.textCursor().position() > 1000);
+    }
+
     void EverythingComesBack() {
         MainWindowFixture main;
         main.StartWith(AllButFactory());
