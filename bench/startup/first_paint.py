@@ -24,11 +24,13 @@ import time
 MAP_NOTIFY = 19
 SUBSTRUCTURE_NOTIFY_MASK = 1 << 19
 REPORT_RAW_RECTANGLES = 0
-SMALLEST_WINDOW = 100  # pixels; smaller ones are helpers that nobody sees
+SMALLEST_WINDOW = 100  # pixels; smaller ones are the toolkit's own, which nobody sees
 
 # What an earlier session left: two boxes filled, twenty results.
-SETTINGS = ('0\r\n2,45,44\r\n0,0,1\r\n0\r\n1\r\n1\r\n1\r\n1\r\n"Sun"\r\n"CE"\r\n"2021-03-04"\r\n"10"\r\n""\r\n"'
-            + "2021-03-04 CE plus 10 days = 2021-03-01 JC, Sunday, excluding 1st date\r\n" * 20 + '"\r\n0\r\n')
+SETTINGS = (
+    '0\r\n2,45,44\r\n0,0,1\r\n0\r\n1\r\n1\r\n1\r\n1\r\n"Sun"\r\n"CE"\r\n"2021-03-04"\r\n"10"\r\n""\r\n"'
+    + "2021-03-04 CE plus 10 days = 2021-03-01 JC, Sunday, excluding 1st date\r\n" * 20
+    + '"\r\n0\r\n')
 
 x11 = ctypes.CDLL("libX11.so.6")
 xdamage = ctypes.CDLL("libXdamage.so.1")

@@ -67,8 +67,10 @@ class Desktop:
         self.server.wait()
 
     def environment(self):
+        # Nothing of the desktop from which the tests are run.
         kept = {name: value for name, value in os.environ.items()
-                if not name.startswith(("QT_", "XDG_", "LC_", "LANG", "WAYLAND_"))}
+                if not name.startswith(("QT_", "XDG_", "LC_", "LANG", "WAYLAND_", "DBUS_", "GTK_", "KDE_",
+                                        "SESSION_MANAGER"))}
         # Libraries of the display copy parts of texts that have no end of their own, which the strictest
         # check of a sanitized build takes for a fault.
         sanitizer = os.environ.get("ASAN_OPTIONS", "") + ":strict_string_checks=0"
@@ -181,7 +183,7 @@ class Desktop:
         self.tool("xdotool", "type", "--delay", "10", text)
 
     def press(self, button):
-        """Presses a button of the window that has the focus, as "frmMain.cmdEnlarge", by its key in English."""
+        """Presses a button, named as "frmMain.cmdEnlarge", by its English key; its window has the focus."""
         if not self.button_keys:
             listed = self.tool(self.window_keys, "-platform", "offscreen").stdout
             self.button_keys = dict(line.split() for line in listed.splitlines())
