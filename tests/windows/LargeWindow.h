@@ -21,6 +21,7 @@ struct LargeWindow {
 
     void Show() {
         window.show();
+        window.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&window));
     }
 

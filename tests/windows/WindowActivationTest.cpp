@@ -23,12 +23,12 @@ struct TwoWindows {
     TwoWindows() {
         new WindowActivation(window, [this] { ++activations; });
         other.show();
-        QVERIFY(QTest::qWaitForWindowActive(&other));
+        Activate(other);
     }
 
     void ShowWindow() {
         window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        Activate(window);
     }
 };
 
@@ -43,7 +43,7 @@ private Q_SLOTS:
         QCOMPARE(two.activations, 0);
         two.window.show();
         QCOMPARE(two.activations, 1);
-        QVERIFY(QTest::qWaitForWindowActive(&two.window));
+        Activate(two.window);
         QCOMPARE(two.activations, 1);
     }
 
@@ -86,7 +86,7 @@ private Q_SLOTS:
         two.ShowWindow();
         QDialog box(&two.window);
         QTimer::singleShot(0, &box, [&box] {
-            QVERIFY(QTest::qWaitForWindowActive(&box));
+            Activate(box);
             box.reject();
         });
         box.exec();
