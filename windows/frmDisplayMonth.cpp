@@ -157,8 +157,6 @@ void frmDisplayMonth::OnActivated() {
     setWindowTitle(ToQt(texts_.Shown(TextId::DisplayMonth)));
     texts_.TextLanguage = texts_.InterfaceLanguage;
     ui_.FillMonths(texts_);
-    if (!ui_.optSunday->isChecked()) Choose(*ui_.optMonday);
-    if (!ui_.optJulian->isChecked()) Choose(*ui_.optCommonEra);
     // Deliberate: the column goes while its text and the button's caption stay as they are.
     ui_.SetIsoBoxShown(false);
     isoShown_ = false;

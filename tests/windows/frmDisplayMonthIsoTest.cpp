@@ -198,6 +198,23 @@ private Q_SLOTS:
         QVERIFY(!month.Button("cmdShowHideISO").isEnabled());
     }
 
+    void OptionsHideAColumnThatWasShownTooEarly_data() {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("Common Era with Sunday") << QStringLiteral("optCommonEra");
+        QTest::newRow("Monday with Julian") << QStringLiteral("optMonday");
+    }
+
+    void OptionsHideAColumnThatWasShownTooEarly() {
+        QFETCH(const QString, option);
+        MonthWindow month;
+        month.ready = false;  // the button is enabled whatever is chosen
+        month.ShowMonth("1900", 1, CalendarNumber::JC);
+        ClickOn(month.Button("cmdShowHideISO"));
+        QVERIFY(month.IsoBoxShown());
+        ClickOnMark(month.Option(option.toLatin1().constData()));
+        QVERIFY(!month.IsoBoxShown());
+    }
+
     void OptionsThatAreSetHideTheColumnToo() {
         September month;
         month.ShowIso();
