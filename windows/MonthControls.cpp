@@ -107,14 +107,9 @@ void MonthControls::SetIsoBoxShown(bool shown) {
     const int spacing = window_.layout()->spacing();
     const int wanted = window_.height() + boxHeight + (shown ? spacing : -spacing);
 
-    const int most = window_.screen()->availableSize().height();
-
-    // The window is higher than it needs to be in between, never lower: a box that is squeezed would get
-    // scroll bars.
-    if (shown) window_.resize(window_.width(), std::min(wanted, most));
     txbISODates->setVisible(shown);
-    window_.layout()->activate();
-    window_.resize(window_.width(), std::min(wanted, most));
+    window_.layout()->activate();  // the window's least height follows at once
+    window_.resize(window_.width(), std::min(wanted, window_.screen()->availableSize().height()));
     if (shown && window_.isVisible()) MoveKeptOnScreen(window_, window_.pos());
 }
 

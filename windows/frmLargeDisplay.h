@@ -51,6 +51,12 @@ public:
     /// What happens when the window is activated.
     void Form_Activate();
 
+    /// Whether the window has ever been activated.
+    bool Activated() const { return activated_; }
+
+    /// What is written behind the notice that the buffer is full; empty until it is set.
+    void SetBufferFullNote(std::string_view note) { buffer_.BufferFullNote = note; }
+
     /// Turns the buttons into "Pause" and "Stop" for a long output.
     void OfferPauseAndStop();
 

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 namespace calvoro {
 namespace {
@@ -104,6 +105,33 @@ private Q_SLOTS:
         list.hidePopup();
         Activate(two.window);
         QCOMPARE(two.activations, 1);
+    }
+
+    // A window manager may hand the focus on without a moment in which no window of the program has it.
+    void DoesNotComeWhenFocusReturnsAtOnceFromAPassingWindow_data() {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<bool>("modal");
+        QTest::newRow("message box") << static_cast<int>(Qt::Dialog) << true;
+        QTest::newRow("list") << static_cast<int>(Qt::Popup) << false;
+        QTest::newRow("tool tip") << static_cast<int>(Qt::ToolTip) << false;
+    }
+
+    void DoesNotComeWhenFocusReturnsAtOnceFromAPassingWindow() {
+        QFETCH(const int, type);
+        QFETCH(const bool, modal);
+        TwoWindows two;
+        two.ShowWindow();
+        QWindow passing;
+        passing.setFlags(static_cast<Qt::WindowType>(type));
+        passing.setModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+        Q_EMIT qGuiApp->focusWindowChanged(&passing);
+        Q_EMIT qGuiApp->focusWindowChanged(two.window.windowHandle());
+        QCOMPARE(two.activations, 1);
+
+        QWindow lasting;
+        Q_EMIT qGuiApp->focusWindowChanged(&lasting);
+        Q_EMIT qGuiApp->focusWindowChanged(two.window.windowHandle());
+        QCOMPARE(two.activations, 2);
     }
 
     void ComesAfterAMessageBoxOfTheOtherWindow() {

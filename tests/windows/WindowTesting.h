@@ -10,9 +10,9 @@
 #include <QPlainTextEdit>
 #include <QSet>
 #include <QTest>
-#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "windows/CrLfText.h"
 #include "windows/Mnemonics.h"
@@ -55,7 +55,7 @@ inline std::string TextOf(const QWidget& window, const char* name) {
     return CrLfText(Control<QPlainTextEdit>(window, name));
 }
 
-inline std::string Lines(std::initializer_list<std::string_view> lines) {
+inline std::string Lines(const std::vector<std::string_view>& lines) {
     std::string text;
     for (const std::string_view line : lines) {
         if (!text.empty()) text += "\r\n";

@@ -10,23 +10,32 @@
 namespace calvoro {
 namespace {
 
-const std::string kSeptember2024 =
-    Lines({" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  26   27   28   29   30   31    1  ",
-           "   2    3    4    5    6    7    8  ", "   9   10   11   12   13   14   15  ",
-           "  16   17   18   19   20   21   22  ", "  23   24   25   26   27   28   29  ",
-           "  30    1    2    3    4    5    6  "});
-const std::string kIsoDates = Lines({"       M        T        W        T        F        S        S",
-                                     "4-W35-1  4-W35-2  4-W35-3  4-W35-4  4-W35-5  4-W35-6  4-W35-7",
-                                     "4-W36-1  4-W36-2  4-W36-3  4-W36-4  4-W36-5  4-W36-6  4-W36-7",
-                                     "4-W37-1  4-W37-2  4-W37-3  4-W37-4  4-W37-5  4-W37-6  4-W37-7",
-                                     "4-W38-1  4-W38-2  4-W38-3  4-W38-4  4-W38-5  4-W38-6  4-W38-7",
-                                     "4-W39-1  4-W39-2  4-W39-3  4-W39-4  4-W39-5  4-W39-6  4-W39-7",
-                                     "4-W40-1  4-W40-2  4-W40-3  4-W40-4  4-W40-5  4-W40-6  4-W40-7"});
-const std::string kIsoDatesWithoutYear = Lines(
-    {" Mon    Tue    Wed    Thu    Fri    Sat    Sun   ", "W35-1  W35-2  W35-3  W35-4  W35-5  W35-6  W35-7",
-     "W36-1  W36-2  W36-3  W36-4  W36-5  W36-6  W36-7", "W37-1  W37-2  W37-3  W37-4  W37-5  W37-6  W37-7",
-     "W38-1  W38-2  W38-3  W38-4  W38-5  W38-6  W38-7", "W39-1  W39-2  W39-3  W39-4  W39-5  W39-6  W39-7",
-     "W40-1  W40-2  W40-3  W40-4  W40-5  W40-6  W40-7"});
+// clang-format off
+const std::string kSeptember2024 = Lines({
+    " Mon  Tue  Wed  Thu  Fri  Sat  Sun ",
+    "  26   27   28   29   30   31    1  ",
+    "   2    3    4    5    6    7    8  ",
+    "   9   10   11   12   13   14   15  ",
+    "  16   17   18   19   20   21   22  ",
+    "  23   24   25   26   27   28   29  ",
+    "  30    1    2    3    4    5    6  "});
+const std::string kIsoDates = Lines({
+    "       M        T        W        T        F        S        S",
+    "4-W35-1  4-W35-2  4-W35-3  4-W35-4  4-W35-5  4-W35-6  4-W35-7",
+    "4-W36-1  4-W36-2  4-W36-3  4-W36-4  4-W36-5  4-W36-6  4-W36-7",
+    "4-W37-1  4-W37-2  4-W37-3  4-W37-4  4-W37-5  4-W37-6  4-W37-7",
+    "4-W38-1  4-W38-2  4-W38-3  4-W38-4  4-W38-5  4-W38-6  4-W38-7",
+    "4-W39-1  4-W39-2  4-W39-3  4-W39-4  4-W39-5  4-W39-6  4-W39-7",
+    "4-W40-1  4-W40-2  4-W40-3  4-W40-4  4-W40-5  4-W40-6  4-W40-7"});
+const std::string kIsoDatesWithoutYear = Lines({
+    " Mon    Tue    Wed    Thu    Fri    Sat    Sun   ",
+    "W35-1  W35-2  W35-3  W35-4  W35-5  W35-6  W35-7",
+    "W36-1  W36-2  W36-3  W36-4  W36-5  W36-6  W36-7",
+    "W37-1  W37-2  W37-3  W37-4  W37-5  W37-6  W37-7",
+    "W38-1  W38-2  W38-3  W38-4  W38-5  W38-6  W38-7",
+    "W39-1  W39-2  W39-3  W39-4  W39-5  W39-6  W39-7",
+    "W40-1  W40-2  W40-3  W40-4  W40-5  W40-6  W40-7"});
+// clang-format on
 
 // September 2024, Monday first.
 struct September : MonthWindow {

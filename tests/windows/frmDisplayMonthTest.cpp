@@ -1,5 +1,7 @@
 #include "windows/frmDisplayMonth.h"
 
+#include <QIcon>
+#include <QPixmap>
 #include <QScreen>
 #include <QSignalSpy>
 #include <utility>
@@ -33,6 +35,17 @@ private Q_SLOTS:
         QVERIFY(!month.window.isVisible());
     }
 
+    void TakesTheMainWindowsIcon() {
+        FakePlatform fake;
+        Texts texts;
+        QWidget mainWindow;
+        QPixmap picture(16, 16);
+        picture.fill(Qt::red);
+        mainWindow.setWindowIcon(QIcon(picture));
+        const frmDisplayMonth window(fake.platform, texts, mainWindow, [] { return true; });
+        QCOMPARE(window.windowIcon().cacheKey(), mainWindow.windowIcon().cacheKey());
+    }
+
     void DrawsNothingWhileItIsHidden() {
         MonthWindow month;
         month.Year().setText(QStringLiteral("2024"));
@@ -41,78 +54,6 @@ private Q_SLOTS:
         month.Option("optJulian").click();
         QCOMPARE(month.Grid(), std::string());
         QVERIFY(month.fake.boxes.shown.empty());
-    }
-
-    void DrawsTheMonthWhole_data() {
-        QTest::addColumn<QString>("year");
-        QTest::addColumn<int>("month");
-        QTest::addColumn<bool>("julian");
-        QTest::addColumn<bool>("monday");
-        QTest::addColumn<QString>("grid");
-        const auto row = [](const char* name, const char* year, int month, CalendarNumber calendar,
-                            WeekStart weekStart, std::initializer_list<std::string_view> lines) {
-            QTest::newRow(name) << QString::fromLatin1(year) << month << (calendar == CalendarNumber::JC)
-                                << (weekStart == WeekStart::Monday) << ToQt(Lines(lines));
-        };
-        row("September2024MondayFirst", "2024", 9, CalendarNumber::CE, WeekStart::Monday,
-            {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  26   27   28   29   30   31    1  ",
-             "   2    3    4    5    6    7    8  ", "   9   10   11   12   13   14   15  ",
-             "  16   17   18   19   20   21   22  ", "  23   24   25   26   27   28   29  ",
-             "  30    1    2    3    4    5    6  "});
-        row("September2024SundayFirst", "2024", 9, CalendarNumber::CE, WeekStart::Sunday,
-            {" Sun  Mon  Tue  Wed  Thu  Fri  Sat ", "   1    2    3    4    5    6    7  ",
-             "   8    9   10   11   12   13   14  ", "  15   16   17   18   19   20   21  ",
-             "  22   23   24   25   26   27   28  ", "  29   30    1    2    3    4    5  "});
-        row("February2027BeginsOnMonday", "2027", 2, CalendarNumber::CE, WeekStart::Monday,
-            {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "   1    2    3    4    5    6    7  ",
-             "   8    9   10   11   12   13   14  ", "  15   16   17   18   19   20   21  ",
-             "  22   23   24   25   26   27   28  ", "   1    2    3    4    5    6    7  "});
-        row("February2026BeginsOnSunday", "2026", 2, CalendarNumber::CE, WeekStart::Sunday,
-            {" Sun  Mon  Tue  Wed  Thu  Fri  Sat ", "   1    2    3    4    5    6    7  ",
-             "   8    9   10   11   12   13   14  ", "  15   16   17   18   19   20   21  ",
-             "  22   23   24   25   26   27   28  ", "   1    2    3    4    5    6    7  "});
-        row("ThirtyDaysEndAWeekLine", "2024", 6, CalendarNumber::CE, WeekStart::Monday,
-            {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  27   28   29   30   31    1    2  ",
-             "   3    4    5    6    7    8    9  ", "  10   11   12   13   14   15   16  ",
-             "  17   18   19   20   21   22   23  ", "  24   25   26   27   28   29   30  ",
-             "   1    2    3    4    5    6    7  "});
-        row("ThirtyOneDaysEndAWeekLine", "2024", 3, CalendarNumber::CE, WeekStart::Monday,
-            {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  26   27   28   29    1    2    3  ",
-             "   4    5    6    7    8    9   10  ", "  11   12   13   14   15   16   17  ",
-             "  18   19   20   21   22   23   24  ", "  25   26   27   28   29   30   31  "});
-        row("December", "2024", 12, CalendarNumber::CE, WeekStart::Sunday,
-            {" Sun  Mon  Tue  Wed  Thu  Fri  Sat ", "   1    2    3    4    5    6    7  ",
-             "   8    9   10   11   12   13   14  ", "  15   16   17   18   19   20   21  ",
-             "  22   23   24   25   26   27   28  ", "  29   30   31    1    2    3    4  "});
-        row("YearZero", "0", 2, CalendarNumber::CE, WeekStart::Sunday,
-            {" Sun  Mon  Tue  Wed  Thu  Fri  Sat ", "  30   31    1    2    3    4    5  ",
-             "   6    7    8    9   10   11   12  ", "  13   14   15   16   17   18   19  ",
-             "  20   21   22   23   24   25   26  ", "  27   28   29    1    2    3    4  "});
-        row("NegativeYear", "-1", 12, CalendarNumber::CE, WeekStart::Monday,
-            {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  29   30    1    2    3    4    5  ",
-             "   6    7    8    9   10   11   12  ", "  13   14   15   16   17   18   19  ",
-             "  20   21   22   23   24   25   26  ", "  27   28   29   30   31    1    2  "});
-        row("JulianLeapDay", "1900", 2, CalendarNumber::JC, WeekStart::Monday,
-            {" Mon  Tue  Wed  Thu  Fri  Sat  Sun ", "  31    1    2    3    4    5    6  ",
-             "   7    8    9   10   11   12   13  ", "  14   15   16   17   18   19   20  ",
-             "  21   22   23   24   25   26   27  ", "  28   29    1    2    3    4    5  "});
-        row("JulianNegative", "-4712", 1, CalendarNumber::JC, WeekStart::Sunday,
-            {" Sun  Mon  Tue  Wed  Thu  Fri  Sat ", "  31    1    2    3    4    5    6  ",
-             "   7    8    9   10   11   12   13  ", "  14   15   16   17   18   19   20  ",
-             "  21   22   23   24   25   26   27  ", "  28   29   30   31    1    2    3  "});
-    }
-
-    void DrawsTheMonthWhole() {
-        QFETCH(const QString, year);
-        QFETCH(const int, month);
-        QFETCH(const bool, julian);
-        QFETCH(const bool, monday);
-        QFETCH(const QString, grid);
-        MonthWindow shown;
-        shown.window.SetWeekStart(monday ? WeekStart::Monday : WeekStart::Sunday);
-        shown.ShowMonth(year.toStdString(), month, julian ? CalendarNumber::JC : CalendarNumber::CE);
-        QCOMPARE(ToQt(shown.Grid()), grid);
-        QVERIFY(shown.fake.Settled());
     }
 
     void ShowMonthSetsTheControlsAndDrawsOnce() {

@@ -71,7 +71,9 @@ private Q_SLOTS:
         QFETCH(const int, twips);
         LargeWindow large;
         large.texts.TextLanguage = static_cast<LanguageNumber>(language);
+        QVERIFY(!large.window.Activated());
         large.Show();
+        QVERIFY(large.window.Activated());
         QCOMPARE(large.Copy().width(), std::max(TwipsToPixels(twips), large.Copy().sizeHint().width()));
         QCOMPARE(large.window.focusWidget(), &large.Close());
     }

@@ -80,6 +80,14 @@ private Q_SLOTS:
         QCOMPARE(large.Text(), full);
     }
 
+    void TheNoticeIsFollowedByTheNote() {
+        LargeWindow large;
+        large.window.SetBufferFullNote("Stopped.");
+        large.window.Output(TextOfLength(61441), 0, false);
+        large.window.Output("lost", 0, false);
+        QVERIFY(large.Text().ends_with("BUFFER FULL  Stopped.\r\n"));
+    }
+
     void TheNoticeNeverHalvesALineBreak() {
         LargeWindow large;
         const std::string text = std::string(61441 - 512 - 1, 'x') + "\r\n" + std::string(511, 'y');
