@@ -122,10 +122,14 @@ void MonthControls::Arrange() {
     heading->addWidget(txbYear, 1);
     heading->addWidget(cmdDisplay);
 
-    auto* calendars = new QHBoxLayout(fraCalendar);
-    for (QRadioButton* option : {optCommonEra, optJulian}) calendars->addWidget(option, 1);
-    auto* weekStarts = new QHBoxLayout(fraFirstDayOfWeek);
-    for (QRadioButton* option : {optSunday, optMonday}) weekStarts->addWidget(option, 1);
+    const auto fill = [](QGroupBox* frame, QRadioButton* first, QRadioButton* second) {
+        auto* row = new QHBoxLayout;
+        row->addWidget(first, 1);
+        row->addWidget(second, 1);
+        frame->setLayout(row);
+    };
+    fill(fraCalendar, optCommonEra, optJulian);
+    fill(fraFirstDayOfWeek, optSunday, optMonday);
     auto* options = new QHBoxLayout;
     options->addWidget(fraCalendar, 1);
     options->addWidget(fraFirstDayOfWeek, 1);
