@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "calendar/CheckedInt.h"
-#include "tests/calendar/DescribedLeapWeekWalk.h"
+#include "tests/calendar/LeapWeekWalk.h"
 #include "tests/calendar/Printers.h"
 
 namespace calvoro::testing {
