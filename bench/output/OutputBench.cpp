@@ -25,7 +25,7 @@ std::string OutputOf(int size) {
 }
 
 void ScrollToEnd(QPlainTextEdit& box) {
-    SetCaret(box, CrLfLength(box) - 1);
+    if (const int length = CrLfLength(box); length > 0) SetCaret(box, length - 1);
     box.ensureCursorVisible();
     QApplication::processEvents();
 }
