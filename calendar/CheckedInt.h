@@ -11,7 +11,7 @@
 namespace calvoro {
 
 /// A year, month count or day number left the range of signed 32-bit numbers. The only exception of ours;
-/// it is caught where a computation begins, nowhere else.
+/// it is caught at the edge of a computation (StaysIn32Bits), nowhere below.
 class ArithmeticOverflow : public std::exception {
 public:
     const char* what() const noexcept override { return "a result leaves the range of 32-bit numbers"; }

@@ -4,28 +4,15 @@
 
 namespace calvoro {
 
-namespace {
-
-constexpr std::int32_t kCannotBeConverted = 1;
-constexpr std::int32_t kOverflow = 2;
-
-bool HasConversion(CalendarCode code) {
-    switch (code) {
-        case CalendarCode::A:
-        case CalendarCode::V:
-        case CalendarCode::I:
-        case CalendarCode::R: return false;
-        case CalendarCode::Unset:
-        case CalendarCode::G:
-        case CalendarCode::J: return true;
+std::int32_t RareDateToJdn(DateRecord& record) {
+    if (HasDayNumbers(record.calendar)) {
+        record.jdn = NarrowToInt32(formula::CommonEraDayNumber(record.year, record.month, record.day));
     }
-    return true;  // a code without a letter of ours counts as Common Era
+    return record.jdn;
 }
 
-}  // namespace
-
 std::int32_t days_elapsed(const DateRecord& later, const DateRecord& earlier, std::int32_t& status) {
-    if (!HasConversion(later.calendar) || !HasConversion(earlier.calendar)) {
+    if (!HasDayNumbers(later.calendar) || !HasDayNumbers(earlier.calendar)) {
         status = kCannotBeConverted;
         return 0;
     }
@@ -34,7 +21,7 @@ std::int32_t days_elapsed(const DateRecord& later, const DateRecord& earlier, st
         DateRecord first = earlier;
         return (CheckedInt(euro_date_to_jdn(last)) - euro_date_to_jdn(first)).Value();
     } catch (const ArithmeticOverflow&) {
-        status = kOverflow;
+        status = kElapsedOverflow;
         throw;
     }
 }

@@ -11,15 +11,29 @@
 
 namespace calvoro {
 
+/// Whether dates of a calendar have day numbers here: all have them but those of the Annus Novus calendar
+/// (code A), whose own conversions report failure.
+constexpr bool HasDayNumbers(CalendarCode code) {
+    return code != CalendarCode::A;
+}
+
+/// euro_date_to_jdn for the codes that no box has, out of line.
+std::int32_t RareDateToJdn(DateRecord& record);
+
 /// Day number of the record's year, month and day in its calendar (J: Julian; any other code: Common Era),
-/// stored in the record's jdn as well.
+/// stored in the record's jdn as well. A record whose calendar has no day numbers stays as it is, and its
+/// jdn is returned.
 /// record  month 1 to 12, day from 1; any year whose day number fits 32 bits
 /// throws  ArithmeticOverflow when the day number does not fit
 inline std::int32_t euro_date_to_jdn(DateRecord& record) {
-    record.jdn = NarrowToInt32(record.calendar == CalendarCode::J
-                                   ? formula::JulianDayNumber(record.year, record.month, record.day)
-                                   : formula::CommonEraDayNumber(record.year, record.month, record.day));
-    return record.jdn;
+    using namespace formula;
+    if (record.calendar == CalendarCode::G) {
+        return record.jdn = NarrowToInt32(CommonEraDayNumber(record.year, record.month, record.day));
+    }
+    if (record.calendar == CalendarCode::J) {
+        return record.jdn = NarrowToInt32(JulianDayNumber(record.year, record.month, record.day));
+    }
+    return RareDateToJdn(record);
 }
 
 /// Fills year, month and day of the record's day number in the record's calendar (J: Julian; any other
@@ -33,10 +47,14 @@ inline void jdn_to_euro_date(DateRecord& record) {
     record.day = date.day;
 }
 
-/// Day number of `later` minus day number of `earlier`, each computed from year, month, day and calendar.
-/// status  set to 1 when a record cannot be converted (codes A, V, I, R; the result is then 0), to 2 when
-///         the arithmetic overflows; otherwise left alone
-/// throws  ArithmeticOverflow, after setting status 2
+// What days_elapsed and the routines built on it report.
+inline constexpr std::int32_t kCannotBeConverted = 1;
+inline constexpr std::int32_t kElapsedOverflow = 2;
+
+/// Day number of `later` minus day number of `earlier`, each as euro_date_to_jdn computes it.
+/// status  set to kCannotBeConverted when a record's calendar has no day numbers (the result is then 0), to
+///         kElapsedOverflow when the arithmetic overflows; otherwise left alone
+/// throws  ArithmeticOverflow, after setting the status
 std::int32_t days_elapsed(const DateRecord& later, const DateRecord& earlier, std::int32_t& status);
 
 /// Fills year, month and day from the record's day number, by the Annus Novus routine for code A and by

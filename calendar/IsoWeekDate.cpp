@@ -7,14 +7,6 @@ namespace calvoro {
 
 namespace {
 
-/// The Monday that begins week 1, which is the week of 4 January, not yet tested for 32 bits.
-std::int64_t WeekOneMonday(std::int32_t year) {
-    using namespace formula;
-    // Monday 1 January 0001 is day 0 of the count.
-    const std::int64_t january4 = DaysBeforeCommonEraYear(std::int64_t{year} - 1) + 3;
-    return january4 - FloorRemainder(january4, 7) + kCommonEraJanuary;
-}
-
 /// A number that grows with the year as the weekday of 31 December moves on: divided by 7 it leaves 4 for a
 /// Thursday, and so for the year before it 3 for a Wednesday. Negative below year 0.
 std::int64_t WeekdayOfLastDay(std::int64_t year) {
@@ -24,11 +16,12 @@ std::int64_t WeekdayOfLastDay(std::int64_t year) {
 }  // namespace
 
 std::int32_t IsoWeekOneStart(std::int32_t year) {
-    return NarrowToInt32(WeekOneMonday(year));
+    return NarrowToInt32(formula::IsoWeekOneMonday(year));
 }
 
 void IsoWeekDateToJdn(IsoWeekDate& date) {
-    date.jdn = NarrowToInt32(WeekOneMonday(date.year) + 7 * (std::int64_t{date.week} - 1) + date.day - 1);
+    date.jdn = NarrowToInt32(formula::IsoWeekOneMonday(date.year) + 7 * (std::int64_t{date.week} - 1) +
+                             date.day - 1);
 }
 
 bool HasWeek53(std::int32_t year) {

@@ -20,6 +20,16 @@ struct IsoWeekDate {
 };
 static_assert(sizeof(IsoWeekDate) == 20, "five 32-bit fields");
 
+namespace formula {
+/// The Monday that begins week 1 of an ISO year, which is the week of 4 January, not yet tested for 32 bits.
+constexpr std::int64_t IsoWeekOneMonday(std::int32_t year) {
+    // Monday 1 January 0001 is day 0 of the count. Whole weeks make every 32-bit year's count positive.
+    constexpr std::int64_t kWholeWeeks = 7LL << 38;
+    const std::int64_t january4 = DaysBeforeCommonEraYear(std::int64_t{year} - 1) + 3;
+    return january4 - RemainderBy7(static_cast<std::uint64_t>(january4 + kWholeWeeks)) + kCommonEraJanuary;
+}
+}  // namespace formula
+
 /// Day number of the Monday that begins week 1 of an ISO year.
 /// year    any year whose result fits 32 bits
 /// throws  ArithmeticOverflow

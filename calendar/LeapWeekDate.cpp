@@ -1,21 +1,15 @@
 #include "calendar/LeapWeekDate.h"
 
-#include <array>
 #include <cstddef>
 
 #include "calendar/CheckedInt.h"
-#include "calendar/FloorDivision.h"
+#include "calendar/LeapWeekFormula.h"
 
 namespace calvoro {
 
 namespace {
 
-constexpr std::int64_t kWeeksInQuarter = 13;  // 5 + 4 + 4
-constexpr std::int64_t kWeeksInYear = 4 * kWeeksInQuarter;
-
-// Weeks before each month; before month 0 there is nothing to count either.
-constexpr std::array<std::int16_t, 13> kWeeksBeforeMonth{0, 0, 5, 9, 13, 18, 22, 26, 31, 35, 39, 44, 48};
-static_assert(kWeeksBeforeMonth[12] + 4 == kWeeksInYear);
+using namespace formula;
 
 struct WeekOfMonth {
     std::int64_t month = 1;
@@ -26,8 +20,8 @@ struct WeekOfMonth {
 /// long as January, and so on; a week before the first one is counted back from January.
 WeekOfMonth MonthOfWeek(std::int64_t week) {
     if (week < 1) return {1, week};
-    const std::int64_t quarter = (week - 1) / kWeeksInQuarter;
-    const std::int64_t weekOfQuarter = week - quarter * kWeeksInQuarter;
+    const std::int64_t quarter = (week - 1) / kWeeksInLeapWeekQuarter;
+    const std::int64_t weekOfQuarter = week - quarter * kWeeksInLeapWeekQuarter;
     const std::int64_t monthOfQuarter = weekOfQuarter > 9 ? 3 : weekOfQuarter > 5 ? 2 : 1;
     return {3 * quarter + monthOfQuarter,
             weekOfQuarter - kWeeksBeforeMonth[static_cast<std::size_t>(monthOfQuarter)]};
@@ -53,10 +47,7 @@ std::int16_t ValidateWeekForm(LeapWeekDate& date) {
 
 std::int32_t WeekFormToJdn(LeapWeekDate& date) {
     if (ValidateWeekForm(date) < 0) return date.status;
-    // Of the years 1 to n, floor((71 n + 203) / 400) are leap years.
-    const std::int64_t yearsBefore = std::int64_t{date.year} - 1;
-    const std::int64_t leapWeeksBefore = FloorDivide(71 * yearsBefore + 203, 400);
-    const std::int64_t weeksBefore = kWeeksInYear * yearsBefore + leapWeeksBefore + date.week - 1;
+    const std::int64_t weeksBefore = WeeksBeforeLeapWeekYear(date.year) + date.week - 1;
     date.jdn = NarrowToInt32(kLeapWeekEpoch + 7 * weeksBefore + date.weekday - 1);
     return date.jdn;
 }
@@ -64,9 +55,9 @@ std::int32_t WeekFormToJdn(LeapWeekDate& date) {
 bool WeekFormToMonthForm(LeapWeekDate& date) {
     if (ValidateWeekForm(date) < 0) return false;
     WeekOfMonth place = MonthOfWeek(date.week);
-    if (date.week > kWeeksInYear && IsLeapWeekYear(date.year)) {
+    if (date.week > kWeeksInLeapWeekYear && IsLeapWeekYear(date.year)) {
         // The leap week is December's fifth; whatever follows it comes a week later than in other years.
-        place = date.week == kWeeksInYear + 1 ? WeekOfMonth{12, 5} : MonthOfWeek(date.week - 1);
+        place = date.week == kWeeksInLeapWeekYear + 1 ? WeekOfMonth{12, 5} : MonthOfWeek(date.week - 1);
     }
     date.month = NarrowToInt16(place.month);
     date.day = NarrowToInt16(7 * (place.week - 1) + date.weekday);

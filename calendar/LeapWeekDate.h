@@ -62,6 +62,7 @@ inline void JdnToWeekForm(LeapWeekDate& date) {
 
 /// Fills month and day from year, week and weekday.
 /// returns false when ValidateWeekForm refuses the week form (its code is in status)
+/// throws  ArithmeticOverflow when month or day does not fit 16 bits (weeks far beyond the year's last)
 bool WeekFormToMonthForm(LeapWeekDate& date);
 
 /// Fills week and weekday from year, month and day; month 0 and day 0 pass.

@@ -9,11 +9,10 @@ namespace calvoro {
 
 namespace {
 
-std::int32_t LengthOfMonth(const DateRecord& date, bool leapWeekForm) {
+std::int32_t LengthOfMonth(const DateRecord& date, bool leapWeekForm, std::int32_t& status) {
     if (leapWeekForm) {
         return 7 * WeeksInLeapWeekMonth(NarrowToInt16(date.month), IsLeapWeekYear(date.year));
     }
-    std::int32_t status = 0;
     return DaysInMonth(date, status);
 }
 
@@ -50,7 +49,12 @@ void AddMonths(const DateRecord& source, std::int32_t months, DateRecord& result
     result.year = year.Value();
     result.month = month.Value();
 
-    const std::int32_t length = LengthOfMonth(result, leapWeekForm);
+    std::int32_t status = 0;
+    const std::int32_t length = LengthOfMonth(result, leapWeekForm, status);
+    if (status != 0) {
+        result = DateRecord();
+        return;
+    }
     if (result.day > length) result.day = length;
 
     if (leapWeekForm) {

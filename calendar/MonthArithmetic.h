@@ -10,9 +10,12 @@
 namespace calvoro {
 
 /// The date `months` months after (before, when negative) the source; a day beyond the end of the
-/// resulting month becomes its last day. Fills year, month, day and jdn of the result.
+/// resulting month becomes its last day.
+/// months        0 copies the source as it is, its day number included, and never fails
+/// result        a copy of the source with year, month, day and jdn set; zeroed when the source's calendar
+///               has no day numbers
 /// leapWeekForm  the record holds a leap-week date in its month form
-/// throws        ArithmeticOverflow
+/// throws        ArithmeticOverflow, unless months is 0
 void AddMonths(const DateRecord& source, std::int32_t months, DateRecord& result, bool leapWeekForm);
 
 /// Years, months and days from the first date to the second. The caller orders the two dates; a negative

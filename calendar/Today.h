@@ -17,10 +17,12 @@ struct LocalDate {
 };
 
 /// Day number of a local date, read in the Common Era calendar.
+/// throws  ArithmeticOverflow when the day number does not fit 32 bits
 std::int32_t TodayJdn(const LocalDate& today);
 
 /// Day numbers of the first and the last day of today's Common Era month.
 /// returns the month, 1 to 12
+/// throws  ArithmeticOverflow when a day number does not fit 32 bits
 std::int32_t CurrentMonthBounds(const LocalDate& today, std::int32_t& firstDay, std::int32_t& lastDay);
 
 }  // namespace calvoro

@@ -6,6 +6,7 @@
 namespace calvoro {
 
 std::int16_t DayOfYear(DateRecord& record) {
+    if (!HasDayNumbers(record.calendar)) return 0;
     const CheckedInt day = euro_date_to_jdn(record);
     DateRecord newYear = record;
     newYear.month = 1;
@@ -36,7 +37,10 @@ std::int16_t DaysInMonth(const DateRecord& record, std::int32_t& status) {
 
 void YearsAndDays(DateRecord& first, DateRecord& second, std::int32_t& years, std::int16_t& days,
                   std::int32_t& status) {
-    status = 0;
+    status = HasDayNumbers(first.calendar) && HasDayNumbers(second.calendar) ? 0 : kCannotBeConverted;
+    years = 0;
+    days = 0;
+    if (status != 0) return;
     const std::int16_t firstDay = DayOfYear(first);
     const std::int16_t secondDay = DayOfYear(second);
     CheckedInt yearCount = CheckedInt(second.year) - first.year;

@@ -10,6 +10,7 @@
 namespace calvoro {
 
 /// Day of the year, 1 to 366, in the record's own calendar. Refreshes the record's jdn.
+/// returns 0, leaving the record as it is, when its calendar has no day numbers
 /// throws  ArithmeticOverflow
 std::int16_t DayOfYear(DateRecord& record);
 
@@ -25,7 +26,7 @@ std::int16_t DaysInMonth(const DateRecord& record, std::int32_t& status);
 
 /// Whole years and remaining days from the first date to the second, with one correction only: for dates
 /// in different calendars the result is what these steps give. Refreshes the jdn of both records.
-/// status  set to 0 first, then as days_elapsed sets it
+/// status  0, or as days_elapsed sets it; years and days are 0 when a record cannot be converted
 /// throws  ArithmeticOverflow
 void YearsAndDays(DateRecord& first, DateRecord& second, std::int32_t& years, std::int16_t& days,
                   std::int32_t& status);

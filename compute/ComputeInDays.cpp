@@ -14,20 +14,6 @@ bool FromFirstToSecond(ComputeWindow& window, ComputeState& state) {
     return true;
 }
 
-bool FirstFromSecond(std::string_view difference, ComputeWindow& window, ComputeState& state) {
-    if (!FindFirstDate(window, state)) return false;
-    AppendGivenDate(InputBox::SecondDate, difference, window, state);
-    DisplayFirstDate(window, state);
-    return true;
-}
-
-bool SecondFromFirst(std::string_view difference, ComputeWindow& window, ComputeState& state) {
-    if (!FindSecondDate(window, state)) return false;
-    AppendGivenDate(InputBox::FirstDate, difference, window, state);
-    DisplaySecondDate(window, state);
-    return true;
-}
-
 }  // namespace
 
 bool ComputeInDays(InputTexts texts, ComputeWindow& window, ComputeState& state) {
@@ -44,9 +30,9 @@ bool ComputeInDays(InputTexts texts, ComputeWindow& window, ComputeState& state)
     if (hasFirst && hasSecond && !hasDifference) {
         result = FromFirstToSecond(window, state);
     } else if (hasSecond && !hasFirst) {
-        result = FirstFromSecond(texts.difference, window, state);
+        result = FindAndDisplay(InputBox::SecondDate, texts.difference, FindFirstDate, window, state);
     } else if (hasFirst && !hasSecond) {
-        result = SecondFromFirst(texts.difference, window, state);
+        result = FindAndDisplay(InputBox::FirstDate, texts.difference, FindSecondDate, window, state);
         // Deliberate: every other computation that fails still ends its line; that of a first date alone
         // would not.
         if (!result && !hasDifference) return false;

@@ -45,7 +45,7 @@ constexpr MessageRow kSpanish = {
     "Primera fecha está fuera de rango.",
     "Diferencia de fechas no es válida.",
     "Diferencia de fechas está fuera de rango.",
-    // Deliberate: "específicado" keeps the accent with which the text has always been shown.
+    // Deliberate: the accent of "específicado" belongs to the text.
     "La segunda fecha no es válida en el calendario específicado.",
     "La segunda fecha no es válida en Calendario ISO 8601 Week.",
     "La segunda fecha está fuera de rango.",
@@ -54,6 +54,9 @@ constexpr MessageRow kSpanish = {
 
 // By language number; Portuguese, Italian and French have none.
 constexpr std::array<MessageRow, 6> kMessages = {{kEnglish, kGerman, kSpanish, {}, {}, {}}};
+static_assert(kMessages[LanguageEnglish] == kEnglish && kMessages[LanguageGerman] == kGerman &&
+              kMessages[LanguageSpanish] == kSpanish);
+static_assert(static_cast<std::size_t>(ComputeMessage::ResultOutOfRange) + 1 == kComputeMessageCount);
 
 }  // namespace
 

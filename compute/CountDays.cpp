@@ -1,9 +1,9 @@
 #include "compute/CountDays.h"
 
 #include "calendar/CheckedInt.h"
+#include "calendar/StaysIn32Bits.h"
 #include "calendar/Weekday.h"
 #include "compute/ComputeMessages.h"
-#include "compute/Edge.h"
 
 namespace calvoro {
 namespace {
@@ -43,8 +43,12 @@ void SetDateDifference(ComputeState& state) {
 
 }  // namespace
 
+bool CountDays(ComputeState& state) {
+    return StaysIn32Bits([&] { SetDateDifference(state); });
+}
+
 bool CountDaysBetween(ComputeWindow& window, ComputeState& state) {
-    if (!StaysIn32Bits([&] { SetDateDifference(state); })) {
+    if (!CountDays(state)) {
         ShowComputeMessage(ComputeMessage::ResultOutOfRange, state.options.texts, window);
         return false;
     }

@@ -2,10 +2,9 @@
 
 #include "calendar/CheckedInt.h"
 #include "calendar/DayNumber.h"
+#include "calendar/StaysIn32Bits.h"
 #include "compute/ComputeMessages.h"
 #include "compute/DateBox.h"
-#include "compute/Edge.h"
-#include "compute/ParseInputs.h"
 #include "datetext/AnyNotation.h"
 
 namespace calvoro {
@@ -22,7 +21,7 @@ std::string DateStep(InputBox box, std::string_view text, CalendarNumber calenda
                      const ComputeOptions& options, ComputeWindow& window) {
     const DateBox& dateBox = box == InputBox::FirstDate ? kFirstDateBox : kSecondDateBox;
     DateRecord record;
-    const ParseStatus status = ReadDateInRange(text, calendar, options.text, record, nullptr);
+    const ParseStatus status = ReadDate(calendar, text, options.text, record);
     if (status != ParseStatus::Valid) {
         ShowComputeMessage(RefusalMessage(dateBox, status, calendar), options.texts, window);
         return "";

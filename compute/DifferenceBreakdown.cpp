@@ -11,35 +11,28 @@
 namespace calvoro {
 namespace {
 
-struct Parts {
-    std::int32_t years = 0;
-    std::int16_t months = 0;
-    std::int16_t weeks = 0;
-    std::int16_t days = 0;
-};
-
 // Each takes copies, because some routines refresh the day numbers of the records. The status that they
 // report is of no use here: whatever parts they find are printed.
-Parts YearsMonthsAndDays(DateRecord first, DateRecord second) {
-    Parts parts;
+DifferenceParts YearsMonthsAndDays(DateRecord first, DateRecord second) {
+    DifferenceParts parts;
     std::int32_t status = 0;
     YearsMonthsDays(first, second, parts.years, parts.months, parts.days, status);
     return parts;
 }
 
-Parts YearsWeeksAndDays(DateRecord first, DateRecord second) {
+DifferenceParts YearsWeeksAndDays(DateRecord first, DateRecord second) {
     IsoWeekDate firstWeekDate{.jdn = first.jdn};
     IsoWeekDate secondWeekDate{.jdn = second.jdn};
     JdnToIsoWeekDate(firstWeekDate);
     JdnToIsoWeekDate(secondWeekDate);
-    Parts parts;
+    DifferenceParts parts;
     std::int32_t status = 0;
     IsoDifference(firstWeekDate, secondWeekDate, parts.years, parts.weeks, parts.days, status);
     return parts;
 }
 
-Parts OnlyYearsAndDays(DateRecord first, DateRecord second) {
-    Parts parts;
+DifferenceParts OnlyYearsAndDays(DateRecord first, DateRecord second) {
+    DifferenceParts parts;
     std::int32_t status = 0;
     YearsAndDays(first, second, parts.years, parts.days, status);
     return parts;
@@ -48,7 +41,7 @@ Parts OnlyYearsAndDays(DateRecord first, DateRecord second) {
 struct BreakdownRow {
     CalendarNumber calendar;
     std::int32_t threshold;  // the first number of days that can hold a larger unit
-    Parts (*breakDown)(DateRecord first, DateRecord second);
+    DifferenceParts (*breakDown)(DateRecord first, DateRecord second);
 };
 
 constexpr std::array<BreakdownRow, 4> kBreakdowns = {{
@@ -72,20 +65,28 @@ void AppendPart(std::int32_t number, Unit unit, const Texts& texts, std::string&
 
 }  // namespace
 
-std::string DifferenceBreakdown(const ComputeState& state) {
+DifferenceParts PartsOfDifference(const ComputeState& state) {
     const ComputeOptions& options = state.options;
-    if (!options.countWeekendDays || options.firstCalendar != options.secondCalendar) return "";
+    if (!options.countWeekendDays || options.firstCalendar != options.secondCalendar) return {};
     for (const BreakdownRow& row : kBreakdowns) {
         if (row.calendar != options.firstCalendar || state.DateDifference < row.threshold) continue;
-        const Parts parts = row.breakDown(state.FirstDateRecord, state.SecondDateRecord);
-        std::string list;
-        AppendPart(parts.years, {TextId::Year, TextId::Years}, options.texts, list);
-        AppendPart(parts.months, {TextId::Month, TextId::Months}, options.texts, list);
-        AppendPart(parts.weeks, {TextId::Week, TextId::Weeks}, options.texts, list);
-        AppendPart(parts.days, {TextId::Day, TextId::Days}, options.texts, list);
-        return list.empty() ? "" : " (" + list + ")";
+        return row.breakDown(state.FirstDateRecord, state.SecondDateRecord);
     }
-    return "";
+    return {};
+}
+
+std::string PartsText(const DifferenceParts& parts, const Texts& texts) {
+    std::string list;
+    AppendPart(parts.years, {TextId::Year, TextId::Years}, texts, list);
+    AppendPart(parts.months, {TextId::Month, TextId::Months}, texts, list);
+    AppendPart(parts.weeks, {TextId::Week, TextId::Weeks}, texts, list);
+    AppendPart(parts.days, {TextId::Day, TextId::Days}, texts, list);
+    return list;
+}
+
+std::string DifferenceBreakdown(const ComputeState& state) {
+    const std::string list = PartsText(PartsOfDifference(state), state.options.texts);
+    return list.empty() ? "" : " (" + list + ")";
 }
 
 }  // namespace calvoro

@@ -3,9 +3,9 @@
 #include "calendar/CheckedInt.h"
 #include "calendar/DayNumber.h"
 #include "calendar/MonthArithmetic.h"
+#include "calendar/StaysIn32Bits.h"
 #include "calendar/Weekday.h"
 #include "compute/ComputeMessages.h"
-#include "compute/Edge.h"
 
 namespace calvoro {
 namespace {
@@ -76,10 +76,11 @@ void SubtractDaysFromSecondDate(ComputeState& state) {
 
 // Runs the search and judges the day it found; a difference of 0 is in range wherever its date lies.
 template <typename Search>
-bool FindDate(const Search& search, const DateRecord& found, ComputeWindow& window,
-              const ComputeState& state) {
-    const bool isInRange =
-        StaysIn32Bits(search) && (state.DateDifference == 0 || IsWithinDayLimits(found.jdn));
+bool IsFoundInRange(const Search& search, const DateRecord& found, const ComputeState& state) {
+    return StaysIn32Bits(search) && (state.DateDifference == 0 || IsWithinDayLimits(found.jdn));
+}
+
+bool Tell(bool isInRange, ComputeWindow& window, const ComputeState& state) {
     if (!isInRange) ShowComputeMessage(ComputeMessage::ResultOutOfRange, state.options.texts, window);
     return isInRange;
 }
@@ -91,25 +92,33 @@ bool IsLeapWeekForm(const ComputeState& state) {
 
 }  // namespace
 
+bool AddDays(ComputeState& state) {
+    return IsFoundInRange([&] { AddDaysToFirstDate(state); }, state.SecondDateRecord, state);
+}
+
+bool AddMonths(ComputeState& state) {
+    const auto search = [&] {
+        AddMonths(state.FirstDateRecord, state.DateDifference, state.SecondDateRecord, IsLeapWeekForm(state));
+    };
+    return IsFoundInRange(search, state.SecondDateRecord, state);
+}
+
 bool FindSecondDate(ComputeWindow& window, ComputeState& state) {
-    const bool isInRange =
-        FindDate([&] { AddDaysToFirstDate(state); }, state.SecondDateRecord, window, state);
+    const bool isInRange = Tell(AddDays(state), window, state);
     window.SetTheFocus();
     return isInRange;
 }
 
 bool FindFirstDate(ComputeWindow& window, ComputeState& state) {
     const bool isInRange =
-        FindDate([&] { SubtractDaysFromSecondDate(state); }, state.FirstDateRecord, window, state);
+        Tell(IsFoundInRange([&] { SubtractDaysFromSecondDate(state); }, state.FirstDateRecord, state), window,
+             state);
     window.SetTheFocus();
     return isInRange;
 }
 
 bool FindSecondDateByMonths(ComputeWindow& window, ComputeState& state) {
-    const auto search = [&] {
-        AddMonths(state.FirstDateRecord, state.DateDifference, state.SecondDateRecord, IsLeapWeekForm(state));
-    };
-    return FindDate(search, state.SecondDateRecord, window, state);
+    return Tell(AddMonths(state), window, state);
 }
 
 bool FindFirstDateByMonths(ComputeWindow& window, ComputeState& state) {
@@ -117,7 +126,7 @@ bool FindFirstDateByMonths(ComputeWindow& window, ComputeState& state) {
         const CheckedInt months = -CheckedInt(state.DateDifference);
         AddMonths(state.SecondDateRecord, months.Value(), state.FirstDateRecord, IsLeapWeekForm(state));
     };
-    return FindDate(search, state.FirstDateRecord, window, state);
+    return Tell(IsFoundInRange(search, state.FirstDateRecord, state), window, state);
 }
 
 }  // namespace calvoro

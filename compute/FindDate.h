@@ -8,6 +8,14 @@
 
 namespace calvoro {
 
+/// Sets the day number of SecondDateRecord as FindSecondDate does.
+/// returns  false when the result is out of range
+bool AddDays(ComputeState& state);
+
+/// Sets SecondDateRecord as FindSecondDateByMonths does.
+/// returns  false when the result is out of range
+bool AddMonths(ComputeState& state);
+
 /// Sets the day number of SecondDateRecord: DateDifference days after the first date. A difference of 0 is
 /// the first date itself and never fails.
 /// Deliberate: when only weekdays count, a first date on a weekend is not moved before the steps, and an

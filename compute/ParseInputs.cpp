@@ -2,7 +2,6 @@
 
 #include "compute/ComputeMessages.h"
 #include "compute/DateBox.h"
-#include "compute/Edge.h"
 #include "datetext/AnyNotation.h"
 #include "datetext/Tags.h"
 #include "datetext/Thousands.h"
@@ -14,7 +13,9 @@ bool ParseDate(const DateBox& box, std::string& text, ComputeWindow& window, Com
     const ComputeOptions& options = state.options;
     const CalendarNumber calendar = options.*box.calendar;
     std::string canonical;
-    const ParseStatus status = ReadDateInRange(text, calendar, options.text, state.*box.record, &canonical);
+    DateRecord& record = state.*box.record;
+    record = DateRecord();
+    const ParseStatus status = ReadDate(calendar, text, options.text, record, &canonical);
     if (status != ParseStatus::Valid) {
         const ComputeMessage message = status == ParseStatus::NotValid ? box.notValid : box.outOfRange;
         ShowComputeMessage(message, options.texts, window);
@@ -31,14 +32,6 @@ bool ParseDate(const DateBox& box, std::string& text, ComputeWindow& window, Com
 
 }  // namespace
 
-ParseStatus ReadDateInRange(std::string_view text, CalendarNumber calendar, const TextOptions& options,
-                            DateRecord& record, std::string* canonical) {
-    ParseStatus status = ParseStatus::NotValid;
-    record = DateRecord();
-    const bool fits = StaysIn32Bits([&] { status = ReadDate(calendar, text, options, record, canonical); });
-    return fits ? status : ParseStatus::OutOfRange;
-}
-
 bool ParseFirstDate(std::string& text, ComputeWindow& window, ComputeState& state) {
     return ParseDate(kFirstDateBox, text, window, state);
 }
@@ -52,10 +45,7 @@ bool ParseDateDifference(std::string& text, ComputeWindow& window, ComputeState&
         state.DateDifference = 0;
         return true;
     }
-    ParseStatus status = ParseStatus::NotValid;
-    if (!StaysIn32Bits([&] { status = ReadDifference(text, state.DateDifference); })) {
-        status = ParseStatus::OutOfRange;
-    }
+    const ParseStatus status = ReadDifference(text, state.DateDifference);
     if (status != ParseStatus::Valid) {
         const ComputeMessage message = status == ParseStatus::NotValid ? ComputeMessage::DifferenceNotValid
                                                                        : ComputeMessage::DifferenceOutOfRange;

@@ -4,20 +4,11 @@
 // one message box.
 
 #include <string>
-#include <string_view>
 
-#include "calendar/DateRecord.h"
 #include "compute/ComputeState.h"
 #include "compute/ComputeWindow.h"
-#include "datetext/ParseStatus.h"
 
 namespace calvoro {
-
-/// Reads a date in a notation; a day number that does not fit 32 bits is out of range.
-/// record     zeroed first
-/// canonical  receives the text to stand in the box, unless null
-ParseStatus ReadDateInRange(std::string_view text, CalendarNumber calendar, const TextOptions& options,
-                            DateRecord& record, std::string* canonical);
 
 /// Reads the first date into FirstDateRecord, rewrites its box, and sets FirstDateEcho: the date and its
 /// tag. Deliberate: an ordinal date is echoed without its tag.

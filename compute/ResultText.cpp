@@ -77,6 +77,15 @@ void DisplaySecondDate(ComputeWindow& window, const ComputeState& state) {
     DisplayDate(kSecondDateBox, window, state);
 }
 
+bool FindAndDisplay(InputBox given, std::string_view difference,
+                    bool (*find)(ComputeWindow& window, ComputeState& state), ComputeWindow& window,
+                    ComputeState& state) {
+    if (!find(window, state)) return false;
+    AppendGivenDate(given, difference, window, state);
+    DisplayDate(given == InputBox::FirstDate ? kSecondDateBox : kFirstDateBox, window, state);
+    return true;
+}
+
 void DisplayDateDiff(ComputeWindow& window, const ComputeState& state) {
     const ComputeOptions& options = state.options;
     const std::string_view to = options.texts.InterfaceLanguage == LanguageGerman ? " bis " : " to ";

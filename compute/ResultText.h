@@ -27,6 +27,15 @@ void DisplayFirstDate(ComputeWindow& window, const ComputeState& state);
 /// The same for the computed second date.
 void DisplaySecondDate(ComputeWindow& window, const ComputeState& state);
 
+/// Finds a date from the other one and a difference and, when it was found, appends the given date, the
+/// difference and the found date.
+/// given    the box of the given date
+/// find     the search; it returns false after showing a message
+/// returns  what the search returns
+bool FindAndDisplay(InputBox given, std::string_view difference,
+                    bool (*find)(ComputeWindow& window, ComputeState& state), ComputeWindow& window,
+                    ComputeState& state);
+
 /// Appends both dates, " = ", the number of days between them with its unit and, for long spans, their
 /// breakdown into larger units. Verbose adds the counting notes before the breakdown.
 void DisplayDateDiff(ComputeWindow& window, const ComputeState& state);

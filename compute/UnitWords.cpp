@@ -1,5 +1,7 @@
 #include "compute/UnitWords.h"
 
+#include "text/AsciiCase.h"
+
 namespace calvoro {
 namespace {
 
@@ -12,9 +14,7 @@ bool IsOneEitherWay(std::int32_t number) {
 std::string WordInSentence(TextId id, const Texts& texts) {
     std::string word(texts.Shown(id));
     if (texts.InterfaceLanguage == LanguageGerman) return word;
-    for (char& letter : word) {
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    }
+    for (char& letter : word) letter = LowerCase(letter);
     return word;
 }
 

@@ -8,6 +8,7 @@
 #include "calendar/IsoWeekDate.h"
 #include "calendar/LeapWeekDate.h"
 #include "calendar/OrdinalDate.h"
+#include "calendar/StaysIn32Bits.h"
 #include "datetext/Blanks.h"
 #include "datetext/DayCountText.h"
 #include "datetext/DayNumberText.h"
@@ -16,16 +17,13 @@
 #include "datetext/IsoWeekText.h"
 #include "datetext/LeapWeekText.h"
 #include "datetext/OrdinalText.h"
+#include "datetext/Tags.h"
 #include "datetext/Thousands.h"
 
 namespace calvoro {
 namespace {
 
 // --- Common Era and Julian dates ---
-
-constexpr CalendarCode CodeOf(CalendarNumber number) {
-    return number == CalendarNumber::JC ? CalendarCode::J : CalendarCode::G;
-}
 
 std::string WriteRecord(const DateRecord& record, const TextOptions& options) {
     return FormatDateText(record, options.dateFormat, options.dateSeparator, options.thousandsSeparator,
@@ -74,7 +72,7 @@ template <CalendarNumber kNumber>
 std::string WriteEuroDate(std::int32_t jdn, const TextOptions& options) {
     DateRecord record;
     record.jdn = jdn;
-    record.calendar = CodeOf(kNumber);
+    CalendarCodeOfTag(kNumber, record);
     jdn_to_euro_date(record);
     return WriteRecord(record, options);
 }
@@ -180,26 +178,29 @@ ParseStatus ReadDayNumber(std::string_view text, const TextOptions& options, Dat
     return status;
 }
 
-constexpr std::array<Notation, 7> kNotations{{
-    {CalendarNumber::CE, "CE", ReadEuroDate<CalendarNumber::CE>, WriteEuroDate<CalendarNumber::CE>},
-    {CalendarNumber::ISO, "ISO", ReadIso, WriteIso},
-    {CalendarNumber::JC, "JC", ReadEuroDate<CalendarNumber::JC>, WriteEuroDate<CalendarNumber::JC>},
-    {CalendarNumber::ORD, "ORD", ReadOrdinal, WriteOrdinal},
-    {CalendarNumber::LPM, "LPM", ReadLpm, WriteLpm},
-    {CalendarNumber::LPW, "LPW", ReadLpw, WriteLpw},
-    {CalendarNumber::JDN, "JDN", ReadDayNumber, WriteDayNumber},
+constexpr std::array<Notation, kOfferedNotations.size()> kNotations{{
+    {CalendarNumber::CE, TagText(CalendarNumber::CE), ReadEuroDate<CalendarNumber::CE>,
+     WriteEuroDate<CalendarNumber::CE>},
+    {CalendarNumber::ISO, TagText(CalendarNumber::ISO), ReadIso, WriteIso},
+    {CalendarNumber::JC, TagText(CalendarNumber::JC), ReadEuroDate<CalendarNumber::JC>,
+     WriteEuroDate<CalendarNumber::JC>},
+    {CalendarNumber::ORD, TagText(CalendarNumber::ORD), ReadOrdinal, WriteOrdinal},
+    {CalendarNumber::LPM, TagText(CalendarNumber::LPM), ReadLpm, WriteLpm},
+    {CalendarNumber::LPW, TagText(CalendarNumber::LPW), ReadLpw, WriteLpw},
+    {CalendarNumber::JDN, TagText(CalendarNumber::JDN), ReadDayNumber, WriteDayNumber},
 }};
 
-/// The text without a blank and the tag at its end.
-std::string_view WithoutTag(std::string_view text, std::string_view tag) {
-    if (text.size() <= tag.size() || !text.ends_with(tag)) return text;
-    const std::string_view date = text.substr(0, text.size() - tag.size());
-    return date.back() == ' ' ? date : text;
+constexpr bool NotationsStandInTheirOrder() {
+    for (std::size_t row = 0; row < kNotations.size(); ++row) {
+        if (kNotations[row].number != kOfferedNotations[row]) return false;
+    }
+    return true;
 }
+static_assert(NotationsStandInTheirOrder());
 
 }  // namespace
 
-std::span<const Notation, 7> Notations() {
+std::span<const Notation, kOfferedNotations.size()> Notations() {
     return kNotations;
 }
 
@@ -210,10 +211,25 @@ const Notation& NotationOf(CalendarNumber number) {
     return kNotations.front();
 }
 
+std::string_view DateAlone(const Notation& notation, std::string_view text) {
+    text = TrimBlanks(text);
+    if (text.size() <= notation.tag.size() || !text.ends_with(notation.tag)) return text;
+    const std::string_view date = text.substr(0, text.size() - notation.tag.size());
+    return date.back() == ' ' ? TrimBlanks(date) : text;
+}
+
+ParseStatus ReadDate(const Notation& notation, std::string_view text, const TextOptions& options,
+                     DateRecord& record, std::string* canonical) {
+    ParseStatus status = ParseStatus::NotValid;
+    const std::string_view date = DateAlone(notation, text);
+    if (StaysIn32Bits([&] { status = notation.read(date, options, record, canonical); })) return status;
+    record = DateRecord();
+    return ParseStatus::OutOfRange;
+}
+
 ParseStatus ReadDate(CalendarNumber number, std::string_view text, const TextOptions& options,
                      DateRecord& record, std::string* canonical) {
-    const Notation& notation = NotationOf(number);
-    return notation.read(WithoutTag(TrimBlanks(text), notation.tag), options, record, canonical);
+    return ReadDate(NotationOf(number), text, options, record, canonical);
 }
 
 bool CanWriteDate(CalendarNumber number, std::int32_t jdn) {

@@ -4,6 +4,7 @@
 
 #include "calendar/DayNumber.h"
 #include "datetext/Digits.h"
+#include "datetext/Utf8.h"
 
 namespace calvoro {
 namespace {
@@ -11,11 +12,13 @@ namespace {
 constexpr std::string_view kLongestNumber = "2147483647";
 
 /// Whether dots stand only where thousands separators would: in front of each of the last groups of three
-/// digits, at most three of them, and never as the first character.
+/// characters, at most three of them, and never as the first character.
 bool DotsGroupThousands(std::string_view text, std::size_t dots) {
-    if (dots > 3 || text.size() <= dots * 4) return false;
-    for (std::size_t group = 1; group <= dots; ++group) {
-        if (text[text.size() - group * 4] != '.') return false;
+    if (dots > 3) return false;
+    for (; dots > 0; --dots) {
+        const std::size_t dot = text.rfind('.');
+        if (dot == 0 || CountCharacters(text.substr(dot + 1)) != 3) return false;
+        text = text.substr(0, dot);
     }
     return true;
 }
@@ -39,12 +42,13 @@ std::int32_t ParseJdnText(std::string_view text, ParseStatus& status) {
 
     // Deliberate: ten characters are compared as text, whether they are all digits or not.
     status = ParseStatus::OutOfRange;
-    if (text.size() > kLongestNumber.size()) return 0;
-    if (text.size() == kLongestNumber.size() && text > kLongestNumber) return 0;
+    const std::size_t length = CountCharacters(text);
+    if (length > kLongestNumber.size()) return 0;
+    if (length == kLongestNumber.size() && text > kLongestNumber) return 0;
 
     // Deliberate: the number ends at the first other character, and a text without any digit is 0. Whoever
     // hands over what a user typed removes groupings and refuses the rest beforehand.
-    std::size_t at = 0;
+    std::size_t at = text.front() == '+' ? 1 : 0;
     const std::int32_t magnitude = ReadDigits(text, at);
     if (magnitude > kMaxDayNumber) return 0;
 

@@ -32,19 +32,10 @@ bool HasDateShape(std::string_view text, char separator) {
 }
 
 CalendarCode CodeForReading(CalendarNumber tag) {
-    switch (tag) {
-        case CalendarNumber::ARC: return CalendarCode::R;
-        case CalendarNumber::JC: return CalendarCode::J;
-        case CalendarNumber::AN: return CalendarCode::A;
-        case CalendarNumber::VLW: return CalendarCode::V;
-        case CalendarNumber::ISO: return CalendarCode::I;
-        case CalendarNumber::CE:
-        case CalendarNumber::JDN:
-        case CalendarNumber::ORD:
-        case CalendarNumber::LPW:
-        case CalendarNumber::LPM: return CalendarCode::G;
-    }
-    return CalendarCode::G;
+    if (tag == CalendarNumber::ARC) return CalendarCode::R;
+    DateRecord record{.calendar = CalendarCode::G};  // it stays so for a tag without a code
+    CalendarCodeOfTag(tag, record);
+    return record.calendar;
 }
 
 /// The order of the fields: notations that always begin with the year have no month-first form.

@@ -2,17 +2,14 @@
 
 // ISO 8601 week dates as text: yyyy-Www-d or yyyyWwwd.
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 #include "calendar/IsoWeekDate.h"
 #include "datetext/ParseStatus.h"
+#include "datetext/TextShape.h"
 
 namespace calvoro {
-
-/// The form in which an ISO week date or an ordinal date stands in a text.
-enum class TextShape : std::int16_t { Compact = 1, Hyphenated = -1, None = 0 };
 
 /// The form of an ISO week date; None when the text is not one. "W" is upper case only.
 TextShape IsoShape(std::string_view text);

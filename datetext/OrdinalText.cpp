@@ -11,59 +11,49 @@ namespace {
 
 constexpr std::size_t kCompactLength = 7;  // yyyyddd
 constexpr std::size_t kYearLength = 4;
+constexpr std::size_t kDayLength = 3;
 constexpr std::int32_t kLongestYear = 366;
 
-std::int32_t ValueOf(std::string_view digits) {
+/// The parts of a text that has the form of an ordinal date.
+struct OrdinalParts {
+    TextShape shape = TextShape::None;
+    std::int32_t year = 0;  // [0, 9999]
+    std::int32_t day = 0;   // [1, 366]
+
+    bool YearHasDay() const { return day < kLongestYear || IsLeapYear(year, "G"); }
+};
+
+OrdinalParts SplitOrdinalText(std::string_view text) {
+    const bool hyphenated = text.size() == kCompactLength + 1 && text[kYearLength] == '-';
+    if (!hyphenated && text.size() != kCompactLength) return {};
+    const std::string_view year = text.substr(0, kYearLength);
+    const std::string_view day = text.substr(text.size() - kDayLength);
+    if (!AllDigits(year) || !AllDigits(day)) return {};
+
+    OrdinalParts parts;
     std::size_t at = 0;
-    return ReadDigits(digits, at);
-}
-
-bool IsCommonEraLeapYear(std::int32_t year) {
-    return IsLeapYear(year, "G");
-}
-
-/// The seven digits of a text whose fifth character is a "-", in `digits`; false for any other text.
-bool TakeHyphenOut(std::string_view text, std::string& digits) {
-    if (text.size() != kCompactLength + 1 || text[kYearLength] != '-') return false;
-    digits.assign(text.substr(0, kYearLength));
-    digits.append(text.substr(kYearLength + 1));
-    return true;
+    parts.year = ReadDigits(year, at);
+    at = 0;
+    parts.day = ReadDigits(day, at);
+    if (parts.day < 1 || parts.day > kLongestYear) return {};
+    parts.shape = hyphenated ? TextShape::Hyphenated : TextShape::Compact;
+    return parts;
 }
 
 }  // namespace
 
 TextShape OrdinalShape(std::string_view text) {
-    std::string digits;
-    TextShape shape = TextShape::Hyphenated;
-    if (!TakeHyphenOut(text, digits)) {
-        if (text.size() != kCompactLength) return TextShape::None;
-        digits.assign(text);
-        shape = TextShape::Compact;
-    }
-    if (!AllDigits(digits)) return TextShape::None;
-
-    const std::int32_t year = ValueOf(std::string_view(digits).substr(0, kYearLength));
-    const std::int32_t day = ValueOf(std::string_view(digits).substr(kYearLength));
-    if (day < 1 || day > kLongestYear) return TextShape::None;
-    if (day == kLongestYear && !IsCommonEraLeapYear(year)) return TextShape::None;
-    return shape;
+    const OrdinalParts parts = SplitOrdinalText(text);
+    return parts.YearHasDay() ? parts.shape : TextShape::None;
 }
 
 ParseStatus ParseOrdinalDate(std::string_view text, bool hyphen, DateRecord& record) {
-    std::string digits = WithoutBlanks(text);
-    if (hyphen) {
-        if (digits.size() <= kYearLength || digits[kYearLength] != '-') return ParseStatus::NotValid;
-        digits.erase(kYearLength, 1);
-    }
-    if (digits.size() != kCompactLength || !AllDigits(digits)) return ParseStatus::NotValid;
+    const OrdinalParts parts = SplitOrdinalText(WithoutBlanks(text));
+    if (parts.shape != (hyphen ? TextShape::Hyphenated : TextShape::Compact)) return ParseStatus::NotValid;
+    if (parts.year < 1) return ParseStatus::OutOfRange;  // four digits cannot exceed 9999
+    if (!parts.YearHasDay()) return ParseStatus::NotValid;
 
-    const std::int32_t year = ValueOf(std::string_view(digits).substr(0, kYearLength));
-    const std::int32_t day = ValueOf(std::string_view(digits).substr(kYearLength));
-    if (day < 1 || day > kLongestYear) return ParseStatus::NotValid;
-    if (year < 1) return ParseStatus::OutOfRange;  // four digits cannot exceed 9999
-    if (day == kLongestYear && !IsCommonEraLeapYear(year)) return ParseStatus::NotValid;
-
-    record.jdn = OrdinalToJdn(year, day);
+    record.jdn = OrdinalToJdn(parts.year, parts.day);
     record.calendar = CalendarCode::G;
     jdn_to_euro_date(record);
     return ParseStatus::Valid;
@@ -73,7 +63,7 @@ std::string FormatOrdinalDate(std::int32_t year, std::int16_t dayOfYear, bool hy
     std::string text;
     AppendNumber(text, year, kYearLength);
     if (hyphen) text.push_back('-');
-    AppendNumber(text, dayOfYear, 3);
+    AppendNumber(text, dayOfYear, kDayLength);
     return text;
 }
 

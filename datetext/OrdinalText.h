@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "calendar/DateRecord.h"
-#include "datetext/IsoWeekText.h"
 #include "datetext/ParseStatus.h"
+#include "datetext/TextShape.h"
 
 namespace calvoro {
 

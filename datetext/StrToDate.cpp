@@ -5,6 +5,7 @@
 #include "calendar/DayNumber.h"
 #include "calendar/YearsAndMonths.h"
 #include "datetext/Digits.h"
+#include "datetext/TextOptions.h"
 
 namespace calvoro {
 namespace {
@@ -19,6 +20,9 @@ struct FieldOrder {
     std::size_t day;
 };
 constexpr std::array<FieldOrder, 3> kFieldOrders{{{2, 0, 1}, {2, 1, 0}, {0, 1, 2}}};
+static_assert(kFieldOrders[static_cast<std::size_t>(DateFormat::YMD)].year == 0);
+static_assert(kFieldOrders[static_cast<std::size_t>(DateFormat::MDY)].month == 0);
+static_assert(kFieldOrders[static_cast<std::size_t>(DateFormat::DMY)].day == 0);
 
 constexpr std::array<std::int32_t, 12> kMonthLengths{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 

@@ -5,29 +5,47 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 
 #include "calendar/CalendarNumber.h"
 
 namespace calvoro {
 
-/// One row of the tag table, numbered by CalendarNumber.
+/// One row of the tag table.
 struct TagRow {
+    CalendarNumber number{};
     std::string_view tag;     // "CE", "JC" ...
     std::string_view letter;  // for information: CalendarCodeOfTag decides
 };
 
 /// The ten rows, in the order of CalendarNumber.
-const std::array<TagRow, 10>& TagTable();
+inline constexpr std::array<TagRow, kCalendarNumberCount> kTagTable{{
+    {CalendarNumber::CE, "CE", "G"},
+    {CalendarNumber::JC, "JC", "J"},
+    {CalendarNumber::JDN, "JDN", "JD"},
+    {CalendarNumber::AN, "AN", "A"},
+    {CalendarNumber::ORD, "ORD", ""},
+    {CalendarNumber::VLW, "VLW", "V"},
+    {CalendarNumber::ISO, "ISO", "I"},
+    {CalendarNumber::LPW, "LPW", ""},
+    {CalendarNumber::LPM, "LPM", ""},
+    {CalendarNumber::ARC, "ARC", ""},
+}};
 
 /// The tag that is written after a date in this notation.
-std::string_view TagText(CalendarNumber number);
+/// number  one of the ten; there is no row for any other
+constexpr std::string_view TagText(CalendarNumber number) {
+    return kTagTable[static_cast<std::size_t>(number)].tag;
+}
 
-/// The notation of a tag.
-/// ignoreCase  "ce" is CE too
-/// returns     nothing when no notation has this tag
-std::optional<CalendarNumber> NotationOfTag(std::string_view tag, bool ignoreCase);
+constexpr bool TagsStandInTheOrderOfTheirNumbers() {
+    for (std::size_t row = 0; row < kTagTable.size(); ++row) {
+        if (static_cast<std::size_t>(kTagTable[row].number) != row || kTagTable[row].tag.empty())
+            return false;
+    }
+    return true;
+}
+static_assert(TagsStandInTheOrderOfTheirNumbers());
 
 /// Names of one month.
 struct MonthNameRow {

@@ -33,11 +33,11 @@ std::string TodayLabel(std::int32_t jdn, CalendarNumber calendar, const TextOpti
     text += words.weekdays[static_cast<std::size_t>(euro_day_of_week(jdn))];
     text += ", ";
     if (words.german && IsEuroDate(calendar)) text += "der ";
-    if (!CanWriteDate(calendar, jdn)) return text;
-    text += WriteDate(calendar, jdn, options);
+    const Notation& notation = NotationOf(calendar);
+    text += notation.write(jdn, options);
     if (HasTagInLabel(calendar)) {
         text += ' ';
-        text += NotationOf(calendar).tag;
+        text += notation.tag;
     }
     return text;
 }

@@ -20,8 +20,8 @@ struct LabelWords {
     bool german = false;                         // "der " before a day-month-year date
 };
 
-/// "Today is Friday, 2026-11-20 CE": phrase, weekday, and the day in the label's calendar. A day that the
-/// calendar cannot write (ORD outside its four-digit years) ends after the comma and the blank.
+/// "Today is Friday, 2026-11-20 CE": phrase, weekday, and the day in the label's calendar. An ordinal date is
+/// written beyond four-digit years too ("10000-007"): no box reads a label.
 std::string TodayLabel(std::int32_t jdn, CalendarNumber calendar, const TextOptions& options,
                        const LabelWords& words);
 

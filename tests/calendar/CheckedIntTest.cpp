@@ -1,4 +1,5 @@
 #include "calendar/CheckedInt.h"
+#include "tests/support/Limits32.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +8,7 @@
 
 namespace calvoro {
 
-namespace {
-
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
-
-}  // namespace
+namespace {}  // namespace
 
 TEST(CheckedInt, ComputesLikeAPlainNumberInsideTheRange) {
     EXPECT_EQ((CheckedInt(kLargest) + 0).Value(), kLargest);

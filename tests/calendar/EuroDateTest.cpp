@@ -3,19 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
 #include <ostream>
 #include <string>
 
 #include "tests/calendar/Printers.h"
+#include "tests/support/Limits32.h"
 #include "tests/support/NextDay.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro::testing {
 
 namespace {
-
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
 
 struct DateRow {
     const char* name;
@@ -90,8 +88,7 @@ TEST_P(EuroDate, IsFilledTheSameWayByDayNumberToDate) {
     EXPECT_EQ(record, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, EuroDate, ::testing::ValuesIn(kDates),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, EuroDate, ::testing::ValuesIn(kDates), RowName<DateRow>);
 
 TEST(DayNumberToDate, LeavesAnAnnusNovusRecordAlone) {
     const DateRecord before{.year = 3, .month = 2, .day = 1, .calendar = CalendarCode::A, .jdn = 2460370};
@@ -226,19 +223,35 @@ TEST(DaysElapsed, LeavesTheStatusOfItsCallerAloneWhenAllIsWell) {
     EXPECT_EQ(status, 17);
 }
 
+TEST(DaysElapsed, ConvertsWhateverHasADayNumber) {
+    const DateRecord early{.year = 1900, .month = 2, .day = 28, .calendar = CalendarCode::G};
+    for (const CalendarCode code : {CalendarCode::Unset, CalendarCode::G, CalendarCode::J, CalendarCode::V,
+                                    CalendarCode::I, CalendarCode::R}) {
+        DateRecord late{.year = 1900, .month = 3, .day = 1, .calendar = code};
+        std::int32_t status = 0;
+        const std::int32_t days = days_elapsed(late, early, status);
+        EXPECT_EQ(status, 0);
+        EXPECT_EQ(days, euro_date_to_jdn(late) - 2415079);
+        EXPECT_EQ(days, code == CalendarCode::J ? 14 : 1);
+    }
+}
+
 TEST(DaysElapsed, ReportsRecordsThatCannotBeConverted) {
     const DateRecord good{.year = 2021, .month = 3, .day = 4, .calendar = CalendarCode::G};
-    for (const CalendarCode code : {CalendarCode::A, CalendarCode::V, CalendarCode::I, CalendarCode::R}) {
-        DateRecord bad = good;
-        bad.calendar = code;
-        bad.day = 9;
-        std::int32_t status = 0;
-        EXPECT_EQ(days_elapsed(bad, good, status), 0);
-        EXPECT_EQ(status, 1);
-        status = 0;
-        EXPECT_EQ(days_elapsed(good, bad, status), 0);
-        EXPECT_EQ(status, 1);
-    }
+    DateRecord bad{.year = 2021, .month = 3, .day = 9, .calendar = CalendarCode::A};
+    std::int32_t status = 0;
+    EXPECT_EQ(days_elapsed(bad, good, status), 0);
+    EXPECT_EQ(status, 1);
+    status = 0;
+    EXPECT_EQ(days_elapsed(good, bad, status), 0);
+    EXPECT_EQ(status, 1);
+}
+
+TEST(EuroDateToJdn, LeavesARecordOfTheAnnusNovusCalendarAsItIs) {
+    const DateRecord before{.year = 2021, .month = 3, .day = 9, .calendar = CalendarCode::A, .jdn = 17};
+    DateRecord record = before;
+    EXPECT_EQ(euro_date_to_jdn(record), 17);
+    EXPECT_EQ(record, before);
 }
 
 TEST(DaysElapsed, ReportsOverflowAndRaisesIt) {

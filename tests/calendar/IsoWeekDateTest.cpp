@@ -3,19 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
 #include <ostream>
 #include <string>
 
 #include "calendar/CheckedInt.h"
 #include "tests/calendar/Printers.h"
+#include "tests/support/Limits32.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro {
 
 namespace {
-
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
 
 struct WeekRow {
     const char* name;
@@ -77,6 +75,8 @@ constexpr DifferenceRow kDifferences[] = {
     {"SameDay", {2021, 10, 3}, {2021, 10, 3}, {0, 0, 0}, 0},
     {"OneYear", {2021, 1, 1}, {2022, 1, 1}, {1, 0, 0}, 0},
     {"YearsWeeksDays", {2020, 10, 2}, {2023, 12, 5}, {3, 2, 3}, 0},
+    {"WeeksAlone", {2021, 10, 3}, {2021, 12, 3}, {0, 2, 0}, 0},
+    {"YearBeforeWithLaterWeekAndDay", {2022, 10, 3}, {2021, 12, 5}, {-1, 2, 2}, -1},
     {"BorrowsAWeek", {2021, 10, 5}, {2021, 12, 3}, {0, 1, 5}, 0},
     {"BorrowsTheOnlyWeek", {2021, 10, 5}, {2021, 11, 3}, {0, 0, 5}, 0},
     {"BorrowsAYear", {2021, 50, 2}, {2022, 3, 4}, {0, 5, 2}, 0},
@@ -126,8 +126,7 @@ TEST_P(IsoWeek, IsFoundFromItsDayNumber) {
               (IsoWeekDate{.year = row.year, .week = row.week, .day = row.day, .jdn = row.jdn, .set = 1}));
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, IsoWeek, ::testing::ValuesIn(kWeeks),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, IsoWeek, ::testing::ValuesIn(kWeeks), RowName<WeekRow>);
 
 class IsoWeekOne : public ::testing::TestWithParam<WeekOneRow> {};
 
@@ -135,8 +134,7 @@ TEST_P(IsoWeekOne, StartsOnTheMondayOfTheFirstThursday) {
     EXPECT_EQ(IsoWeekOneStart(GetParam().year), GetParam().jdn);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, IsoWeekOne, ::testing::ValuesIn(kWeekOnes),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, IsoWeekOne, ::testing::ValuesIn(kWeekOnes), RowName<WeekOneRow>);
 
 TEST(HasWeek53, HoldsForYearsWith53Thursdays) {
     for (const std::int32_t year : {2015, 2020, 2026, 4, 9}) EXPECT_TRUE(HasWeek53(year)) << year;
@@ -181,7 +179,7 @@ TEST_P(IsoDifferenceBetween, IsWhatTheStepsGive) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Dates, IsoDifferenceBetween, ::testing::ValuesIn(kDifferences),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         RowName<DifferenceRow>);
 
 TEST(IsoDifferenceDeliberate, ALentYearGivesAllItsWeeksToEqualWeeks) {
     // A week of the year lent is lent to the days as well, yet all of its weeks are counted.

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <limits>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -11,13 +10,12 @@
 #include "calendar/CheckedInt.h"
 #include "tests/calendar/LeapWeekWalk.h"
 #include "tests/calendar/Printers.h"
+#include "tests/support/Limits32.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro::testing {
 
 namespace {
-
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
 
 struct FormsRow {
     const char* name;
@@ -122,8 +120,7 @@ TEST_P(LeapWeekForms, BecomeEachOther) {
     EXPECT_EQ(date.weekday, row.weekday);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, LeapWeekForms, ::testing::ValuesIn(kForms),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, LeapWeekForms, ::testing::ValuesIn(kForms), RowName<FormsRow>);
 
 TEST(IsLeapWeekYear, HoldsForEveryFifthOrSixthYear) {
     std::vector<std::int32_t> leapYears;
@@ -280,6 +277,15 @@ TEST(MonthFormToWeekForm, RefusesDaysOutOfBounds) {
             EXPECT_EQ(LpmToJdn(bad), 0);
             EXPECT_EQ(bad.status, -3);
         }
+    }
+}
+
+TEST(MonthFormToWeekForm, ClearsAnEarlierRefusal) {
+    for (const std::int16_t refusal : {kLeapWeekBadMonth, kLeapWeekBadDay}) {
+        LeapWeekDate date = MonthForm(2024, 2, 28);
+        date.status = refusal;
+        EXPECT_TRUE(MonthFormToWeekForm(date));
+        EXPECT_EQ(date.status, kLeapWeekOk);
     }
 }
 

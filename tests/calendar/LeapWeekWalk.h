@@ -1,7 +1,7 @@
 #pragma once
 
 // The leap-week calendar as it is defined: year by year from the epoch, after whole cycles have been set
-// aside one by one. Slow, and written without a look at the closed form, which it proves.
+// aside one by one. Slow, and without a line in common with the closed form, which it proves.
 
 #include <cstdint>
 

@@ -4,20 +4,18 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <ostream>
 #include <string>
 
 #include "calendar/CheckedInt.h"
 #include "tests/calendar/Printers.h"
+#include "tests/support/Limits32.h"
 #include "tests/support/NextDay.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro::testing {
 
 namespace {
-
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
 
 constexpr CalendarCode G = CalendarCode::G;
 constexpr CalendarCode J = CalendarCode::J;
@@ -133,8 +131,7 @@ TEST_P(MonthsAdded, MayReplaceTheirSource) {
     EXPECT_EQ(record, GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(To, MonthsAdded, ::testing::ValuesIn(kAdditions),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(To, MonthsAdded, ::testing::ValuesIn(kAdditions), RowName<AddRow>);
 
 TEST(AddMonths, IsTheStepFromMonthToMonthInBothDirections) {
     int compared = 0;
@@ -180,6 +177,26 @@ TEST(AddMonths, IsTheStepFromMonthToMonthOverLongDistances) {
     }
 }
 
+TEST(AddMonths, CountsAsTheCommonEraWhereACodeHasNoMonthsOfItsOwn) {
+    for (const CalendarCode code : {CalendarCode::V, CalendarCode::I, CalendarCode::R}) {
+        DateRecord result;
+        AddMonths(On(code, 2024, 1, 31), 1, result, false);
+        EXPECT_EQ(result,
+                  (DateRecord{.year = 2024, .month = 2, .day = 29, .calendar = code, .jdn = 2460370}));
+    }
+}
+
+TEST(AddMonths, GivesNoDateInACalendarWithoutConversions) {
+    for (const std::int32_t months : {1, -1, 13}) {
+        DateRecord result = On(G, 2024, 2, 3);
+        AddMonths(On(CalendarCode::A, 2024, 1, 31), months, result, false);
+        EXPECT_EQ(result, DateRecord{}) << months;
+    }
+    DateRecord result;
+    AddMonths(On(CalendarCode::A, 2024, 1, 31), 0, result, false);
+    EXPECT_EQ(result, On(CalendarCode::A, 2024, 1, 31)) << "nothing is to be added";
+}
+
 TEST(AddMonths, RefusesResultsThatDoNotFit) {
     DateRecord result;
     for (const std::int32_t months : {kLargest, kSmallest, 72'000'000, -72'000'000}) {
@@ -210,7 +227,7 @@ TEST_P(YearsMonthsDaysBetween, IsWhatTheStepsGive) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Dates, YearsMonthsDaysBetween, ::testing::ValuesIn(kDistances),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         RowName<DistanceRow>);
 
 TEST(YearsMonthsDaysDeliberate, LeavesANegativeCountOfDays) {
     std::int32_t years = 99;

@@ -2,11 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <ostream>
 #include <string>
 
 #include "calendar/CheckedInt.h"
+#include "tests/support/Limits32.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro {
 
@@ -29,9 +30,6 @@ constexpr OrdinalRow kOrdinals[] = {
     {"YearBeforeZero", -1, 365, 1721059},        {"LeapYearBelowZero", -4, 366, 1719964},
 };
 
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
-
 }  // namespace
 
 class OrdinalDate : public ::testing::TestWithParam<OrdinalRow> {};
@@ -48,8 +46,7 @@ TEST_P(OrdinalDate, IsFoundFromItsDayNumber) {
     EXPECT_EQ(dayOfYear, GetParam().dayOfYear);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, OrdinalDate, ::testing::ValuesIn(kOrdinals),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, OrdinalDate, ::testing::ValuesIn(kOrdinals), RowName<OrdinalRow>);
 
 TEST(OrdinalToJdn, DoesNotValidateTheDay) {
     EXPECT_EQ(OrdinalToJdn(2023, 0), 2459945);

@@ -1,4 +1,5 @@
 #include "calendar/Today.h"
+#include "tests/support/RowName.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,6 @@ TEST_P(Today, LiesInAMonthWithBounds) {
     EXPECT_EQ(lastDay, GetParam().lastDay);
 }
 
-INSTANTIATE_TEST_SUITE_P(In, Today, ::testing::ValuesIn(kMonths),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(In, Today, ::testing::ValuesIn(kMonths), RowName<MonthRow>);
 
 }  // namespace calvoro

@@ -12,6 +12,7 @@
 #include "calendar/Weekday.h"
 #include "calendar/YearsAndMonths.h"
 #include "tests/support/NextDay.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro::testing {
 
@@ -162,8 +163,7 @@ TEST_P(Walk, LengthsOfMonthsAndDaysOfTheYearAreThoseCounted) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(From, Walk, ::testing::ValuesIn(kStarts),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(From, Walk, ::testing::ValuesIn(kStarts), RowName<Start>);
 
 TEST(ChronoWalk, CommonEraDatesAndWeekdaysAreThoseOfTheStandardLibrary) {
     using namespace std::chrono;

@@ -2,20 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <ostream>
 #include <string>
 
 #include "calendar/CheckedInt.h"
 #include "calendar/EuroDate.h"
 #include "tests/calendar/Printers.h"
+#include "tests/support/Limits32.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro {
 
 namespace {
-
-constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
-constexpr std::int32_t kSmallest = std::numeric_limits<std::int32_t>::min();
 
 constexpr DateRecord On(CalendarCode calendar, std::int32_t year, std::int32_t month, std::int32_t day) {
     return {.year = year, .month = month, .day = day, .calendar = calendar};
@@ -107,8 +105,14 @@ TEST_P(DayOfYearOf, RefreshesTheDayNumberAlone) {
     EXPECT_EQ(record, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dates, DayOfYearOf, ::testing::ValuesIn(kDaysOfYear),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Dates, DayOfYearOf, ::testing::ValuesIn(kDaysOfYear), RowName<DayOfYearRow>);
+
+TEST(DayOfYear, IsZeroInACalendarWithoutConversions) {
+    DateRecord record = On(CalendarCode::A, 2024, 1, 31);
+    const DateRecord before = record;
+    EXPECT_EQ(DayOfYear(record), 0);
+    EXPECT_EQ(record, before);
+}
 
 TEST(DayOfYear, RefusesADayThatDoesNotFit) {
     DateRecord tooManyDays = On(CalendarCode::G, 2024, 1, 32'768);
@@ -159,8 +163,7 @@ TEST_P(MonthLength, ComesFromYearMonthAndCalendarAlone) {
     EXPECT_EQ(status, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, MonthLength, ::testing::ValuesIn(kLengths),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Of, MonthLength, ::testing::ValuesIn(kLengths), RowName<LengthRow>);
 
 TEST(DaysInMonth, PassesOnThatARecordCannotBeConverted) {
     for (const std::int32_t month : {1, 10, 12}) {
@@ -193,8 +196,7 @@ TEST_P(YearsAndDaysBetween, IsWhatTheStepsGive) {
     EXPECT_EQ(status, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dates, YearsAndDaysBetween, ::testing::ValuesIn(kDistances),
-                         [](const auto& test) { return std::string(test.param.name); });
+INSTANTIATE_TEST_SUITE_P(Dates, YearsAndDaysBetween, ::testing::ValuesIn(kDistances), RowName<DistanceRow>);
 
 TEST(YearsAndDaysDeliberate, CorrectsOnceAndNoMore) {
     // The dates lie in different calendars: the Julian day of the year is a day ahead, and the Common Era
@@ -229,6 +231,20 @@ TEST(YearsAndDays, RefreshesTheDayNumbersOfBothRecords) {
     YearsAndDays(first, second, years, days, status);
     EXPECT_EQ(first.jdn, 2458910);
     EXPECT_EQ(second.jdn, 2459274);
+}
+
+TEST(YearsAndDays, PassesOnThatARecordCannotBeConverted) {
+    DateRecord good = On(CalendarCode::G, 2021, 2, 28);
+    DateRecord bad = On(CalendarCode::A, 2020, 3, 1);
+    for (const bool badFirst : {true, false}) {
+        std::int32_t years = 9;
+        std::int16_t days = 9;
+        std::int32_t status = 9;
+        YearsAndDays(badFirst ? bad : good, badFirst ? good : bad, years, days, status);
+        EXPECT_EQ(years, 0);
+        EXPECT_EQ(days, 0);
+        EXPECT_EQ(status, 1);
+    }
 }
 
 TEST(YearsAndDays, RaisesOverflow) {

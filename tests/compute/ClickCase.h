@@ -10,6 +10,7 @@
 
 #include "compute/ComputeClick.h"
 #include "tests/support/FakeComputeWindow.h"
+#include "tests/support/RowName.h"
 #include "text/BuiltInProgramTexts.h"
 #include "text/ProgramTextFile.h"
 
@@ -35,10 +36,6 @@ class ClickTest : public testing::TestWithParam<ClickCase> {
 protected:
     void SetUp() override { ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0); }
 };
-
-inline std::string NameOfCase(const testing::TestParamInfo<ClickCase>& info) {
-    return info.param.name;
-}
 
 /// Clicks and compares every effect; the texts of the row must be trimmed ones.
 inline void ExpectClick(const ClickCase& row) {

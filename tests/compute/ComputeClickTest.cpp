@@ -152,7 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "The difference is now counted in days: please click again.",
                    "days", "focus"},
                   ClickOutcome::NoResult}),
-    NameOfCase);
+    RowName<ClickCase>);
 
 TEST(ComputeClick, TrimsBlanksOnlyAndWritesTheTextsBackInOrder) {
     FakeComputeWindow window("  2021-03-04 ", "   ", " \t ");

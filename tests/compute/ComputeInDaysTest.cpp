@@ -142,7 +142,7 @@ INSTANTIATE_TEST_SUITE_P(
                               {"first := 10,000-01-01", "focus", "output: 10,000-01-01 CE = ",
                                "Error!: Result is out of range.", "output: \r\n", "scroll", "focus"},
                               ClickOutcome::Result}),
-    NameOfCase);
+    RowName<ClickCase>);
 
 // Fillings that the click settles before it comes to this routine.
 

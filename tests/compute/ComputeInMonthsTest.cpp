@@ -150,7 +150,7 @@ INSTANTIATE_TEST_SUITE_P(
                   {"difference := 2", "first := 31.01.2024",
                    "output: 31.01.2024 CE plus 2 Monate = 31.03.2024 CE\r\n", "scroll", "focus"},
                   ClickOutcome::Result}),
-    NameOfCase);
+    RowName<ClickCase>);
 
 constexpr const char* kTwoDates =
     "The number of months between two dates is not available.\r\n"
@@ -321,7 +321,7 @@ INSTANTIATE_TEST_SUITE_P(
                   {"difference := 69,000,000", "first := 2024-01-28", kOutOfRange, "output: \r\n", "scroll",
                    "focus"},
                   ClickOutcome::NoResult}),
-    NameOfCase);
+    RowName<ClickCase>);
 
 TEST(MonthsTest, RefuseEveryPairOfUnequalCalendars) {
     ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);

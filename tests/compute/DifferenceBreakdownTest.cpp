@@ -53,6 +53,10 @@ INSTANTIATE_TEST_SUITE_P(
                    "2021-01-15 CE to 2021-12-31 CE = 350 days (11 months, 16 days)"},
         OutputCase{"PlainDigitsInTheParts", "1000-01-01", "", "2021-03-04", kCE, kCE,
                    "1000-01-01 CE to 2021-03-04 CE = 372,975 days (1021 years, 2 months, 3 days)"},
+        OutputCase{"ThirtyDaysJulian", "1900-02-01", "", "1900-03-02", kJC, kJC,
+                   "1900-02-01 JC to 1900-03-02 JC = 30 days"},
+        OutputCase{"ThirtyOneDaysJulian", "1900-03-01", "", "1900-04-01", kJC, kJC,
+                   "1900-03-01 JC to 1900-04-01 JC = 31 days (1 month)"},
         OutputCase{"Julian", "1900-02-01", "", "1900-03-03", kJC, kJC,
                    "1900-02-01 JC to 1900-03-03 JC = 31 days (1 month, 2 days)"},
         OutputCase{"DeliberateNegativeDaysStayAndArePlural", "2023-01-31", "", "2024-03-01", kCE, kCE,
@@ -63,7 +67,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "2019-12-15 CE bis 2021-03-20 CE = 461 Tage (1 Jahr, 3 Monate, 5 Tage)", German},
         OutputCase{"EnglishWhereSpanishHasNone", "2019-12-15", "", "2021-03-20", kCE, kCE,
                    "2019-12-15 CE to 2021-03-20 CE = 461 days (1 year, 3 months, 5 days)", Spanish}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     WeekDates, BreakdownTest,
@@ -81,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
                                kISO, kISO, "2020-W10-5 ISO to 2021-W10-3 ISO = 369 days (53 weeks, 5 days)"},
                     OutputCase{"German", "2021-W01-1", "", "2021-W03-2", kISO, kISO,
                                "2021-W01-1 ISO bis 2021-W03-2 ISO = 15 Tage (2 Wochen, 1 Tag)", German}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(OrdinalDates, BreakdownTest,
                          testing::Values(OutputCase{"Days364", "2021-001", "", "2021-365", kORD, kORD,
@@ -93,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(OrdinalDates, BreakdownTest,
                                          OutputCase{"Days365WithinAYear", "2020-061", "", "2021-059", kORD,
                                                     kORD, "2020-061 to 2021-059 = 365 days (364 days)",
                                                     IncludeFirstDate}),
-                         NameOfOutputCase);
+                         RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(None, BreakdownTest,
                          testing::Values(OutputCase{"UnequalCalendars", "2000-03-04", "", "2021-02-19", kCE,
@@ -111,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(None, BreakdownTest,
                                                     "2022-03-01 CE to 2021-03-01 CE = -365 days"},
                                          OutputCase{"SameDay", "2022-03-01", "", "2022-03-01", kCE, kCE,
                                                     "2022-03-01 CE to 2022-03-01 CE = 0 days"}),
-                         NameOfOutputCase);
+                         RowName<OutputCase>);
 
 TEST(DifferenceBreakdown, IsEmptyWhenEveryPartIsZero) {
     ComputeState state;

@@ -9,6 +9,7 @@
 
 #include "compute/ComputeClick.h"
 #include "tests/support/FakeComputeWindow.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro {
 
@@ -28,10 +29,6 @@ inline void PrintTo(const OutputCase& row, std::ostream* out) {
 }
 
 class OutputTest : public testing::TestWithParam<OutputCase> {};
-
-inline std::string NameOfOutputCase(const testing::TestParamInfo<OutputCase>& info) {
-    return info.param.name;
-}
 
 /// Clicks and compares the output; no message may be shown.
 inline void ExpectOutput(const OutputCase& row) {

@@ -228,10 +228,14 @@ TEST(ParseDateDifference, RefusesInOneMessageAndLeavesTheBox) {
     }
 }
 
-TEST(ReadDateInRange, ClearsTheRecordFirst) {
-    DateRecord record{.year = 6'000'000, .month = 7, .day = 8, .calendar = CalendarCode::J, .jdn = 9};
-    EXPECT_EQ(ReadDateInRange("2021-10-4", CalendarNumber::LPW, {}, record, nullptr), ParseStatus::Valid);
-    EXPECT_EQ(record, (DateRecord{.jdn = 2459278}));
+TEST(ParseFirstDate, ClearsTheRecordFirst) {
+    FakeComputeWindow window("2021-10-4", "", "");
+    ComputeState state;
+    state.options.firstCalendar = CalendarNumber::LPW;
+    state.FirstDateRecord = {.year = 6'000'000, .month = 7, .day = 8, .calendar = CalendarCode::J, .jdn = 9};
+    std::string text = "2021-10-4";
+    EXPECT_TRUE(ParseFirstDate(text, window, state));
+    EXPECT_EQ(state.FirstDateRecord, (DateRecord{.jdn = 2459278}));
 }
 
 }  // namespace

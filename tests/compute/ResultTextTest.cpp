@@ -53,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
                        options.text.dateSeparator = '/';
                    }},
         OutputCase{"LongYears", "12345-01-01", "", "", kCE, kCE, "12,345-01-01 CE = 12,345-01-01 CE"}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     FirstDateInEachNotation, ResultLineTest,
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
                     OutputCase{"LPM", "", "", "2021-03-04", kLPM, kCE, "2021-03-04 CE = 2021-03-04 LPM"},
                     OutputCase{"LPW", "", "", "2021-03-04", kLPW, kCE, "2021-03-04 CE = 2021-10-4 LPW"},
                     OutputCase{"ORD", "", "", "2021-03-04", kORD, kCE, "2021-03-04 CE = 2021-063"}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     Differences, ResultLineTest,
@@ -100,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "2021-063 to 2,459,270 JDN = -8 days"},
         OutputCase{"SmallestOf32Bits", "47483648", "", "-2100000000", kJDN, kJDN,
                    "47,483,648 JDN to -2,100,000,000 JDN = -2,147,483,648 days"}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     VerboseNotes, ResultLineTest,
@@ -149,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(
                        options.verbose = options.includeFirstDate = true;
                        options.countWeekendDays = false;
                    }}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     OneDateInItsOwnCalendar, ResultLineTest,
@@ -195,13 +195,13 @@ INSTANTIATE_TEST_SUITE_P(
                        Verbose(options);
                        German(options);
                    }}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(
     OrdinalLimits, ResultLineTest,
     testing::Values(OutputCase{"FirstDay", "1721426", "", "", kJDN, kORD, "1,721,426 JDN = 0001-001"},
                     OutputCase{"LastDay", "5373484", "", "", kJDN, kORD, "5,373,484 JDN = 9999-365"}),
-    NameOfOutputCase);
+    RowName<OutputCase>);
 
 TEST(ResultLine, DeliberateOrdinalDateOutOfLimitsLeavesTheLineAsItStands) {
     for (const std::string jdn : {"1721425", "5373485"}) {

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "calendar/DayNumber.h"
+#include "calendar/EuroDate.h"
 #include "datetext/Tags.h"
 #include "tests/datetext/TextRows.h"
 
@@ -268,6 +269,19 @@ TEST(ReadDate, DeliberatelyKeepsTheLeapWeekFieldsAsTheyWereTyped) {
         EXPECT_EQ(ReadDate(kLPM, text, kDefaults, record, &canonical), kValid) << text;
         EXPECT_EQ(canonical, text);
     }
+}
+
+TEST(ReadDate, AnswersThatADayNumberLeaves32Bits) {
+    const Notation far{CalendarNumber::CE, "CE",
+                       [](std::string_view, const TextOptions&, DateRecord& record, std::string*) {
+                           record = {.year = 2'147'483'647, .month = 12, .day = 31};
+                           euro_date_to_jdn(record);
+                           return kValid;
+                       },
+                       nullptr};
+    DateRecord record;
+    EXPECT_EQ(ReadDate(far, "2147483647-12-31", kDefaults, record), kOutOfRange);
+    EXPECT_EQ(record, DateRecord{});
 }
 
 TEST(ReadDate, RefusesHostileTextsInEveryNotation) {

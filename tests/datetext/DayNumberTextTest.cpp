@@ -46,8 +46,27 @@ INSTANTIATE_TEST_SUITE_P(
                       NumberRow{"MillionDigits", std::string(1'000'000, '9'), kOutOfRange},
                       NumberRow{"Empty", "", kNotValid}, NumberRow{"OnlyMinus", "-", kNotValid},
                       NumberRow{"TwoMinuses", "--5", kNotValid}, NumberRow{"MinusBehind", "5-", kNotValid},
-                      NumberRow{"MinusInside", "-24-60", kNotValid}),
+                      NumberRow{"MinusInside", "-24-60", kNotValid}, NumberRow{"Plus", "+5", kValid, 5},
+                      NumberRow{"MinusPlus", "-+5", kValid, -5}, NumberRow{"PlusAlone", "+", kValid, 0},
+                      NumberRow{"TwoPluses", "++5", kValid, 0},
+                      NumberRow{"PlusCounts", "+2100000000", kOutOfRange}),
     RowName<NumberRow>);
+
+TEST(ParseJdnText, CountsCharactersNotBytes) {
+    ParseStatus status = kNotValid;
+    EXPECT_EQ(ParseJdnText("12\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac", status), 12) << "nine characters";
+    EXPECT_EQ(status, kValid);
+    EXPECT_EQ(ParseJdnText("12\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac", status), 12) << "ten";
+    EXPECT_EQ(status, kValid);
+    EXPECT_EQ(ParseJdnText("21\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac", status), 0)
+        << "ten that compare higher";
+    EXPECT_EQ(status, kOutOfRange);
+    EXPECT_EQ(ParseJdnText("1\U0001f4c5\U0001f4c5\U0001f4c5", status), 1);
+    EXPECT_EQ(status, kValid);
+    EXPECT_EQ(ParseJdnText("12\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac\u20ac", status), 0)
+        << "eleven";
+    EXPECT_EQ(status, kOutOfRange);
+}
 
 TEST(ParseJdnText, DeliberatelyComparesTenCharactersAsText) {
     ParseStatus status = kNotValid;
@@ -121,6 +140,9 @@ INSTANTIATE_TEST_SUITE_P(
                       SeparatorRow{"FourDots", "1.000.000.000.000", '.', kNotValid},
                       SeparatorRow{"DotsUnderHyphenAreNotLookedAt", "24.60.370", '-', kValid, 24},
                       SeparatorRow{"BeyondLargest", "2100000001", '/', kOutOfRange},
+                      SeparatorRow{"DotInFrontOfThreeCharacters", "2.\u20ac60", '.', kValid, 2},
+                      SeparatorRow{"DotInFrontOfFourCharacters", "2.4\u20ac60", '.', kNotValid},
+                      SeparatorRow{"DotAfterOneCharacter", "\u20ac.460", '.', kValid, 0},
                       SeparatorRow{"Empty", "", '.', kNotValid}),
     RowName<SeparatorRow>);
 

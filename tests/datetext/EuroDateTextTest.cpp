@@ -140,10 +140,12 @@ TEST(ParseDateText, DeliberatelyTestsTheYearThatTheRecordBringsAlongBeforeTheTex
         EXPECT_EQ(ParseDateText("2024", '-', kCE, kYMD, record), ParseStatus::NotValid)
             << "shape comes first";
     }
-    DateRecord record;
-    record.year = 5'800'000;
-    EXPECT_EQ(ParseDateText("2024-03-15", '-', kCE, kYMD, record), ParseStatus::Valid);
-    EXPECT_EQ(record.year, 2024);
+    for (const std::int32_t year : {5'800'000, -5'800'000}) {
+        DateRecord record;
+        record.year = year;
+        EXPECT_EQ(ParseDateText("2024-03-15", '-', kCE, kYMD, record), ParseStatus::Valid);
+        EXPECT_EQ(record.year, 2024);
+    }
 }
 
 struct CodeRow {

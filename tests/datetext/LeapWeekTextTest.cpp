@@ -116,7 +116,8 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         RefusalRow{"NoHyphen", "2024021"}, RefusalRow{"OneHyphen", "2024-021"},
         RefusalRow{"ThreeHyphens", "2024-02-1-"}, RefusalRow{"TwoSigns", "--2024-02-1"},
-        RefusalRow{"SignOfTheWeek", "2024--02-1"}, RefusalRow{"OnlySignForYear", "--02-1"},
+        RefusalRow{"SignOfTheWeek", "2024--02-1"}, RefusalRow{"SignOfTheWeekday", "2024-02--1"},
+        RefusalRow{"OnlySignForYearOfAMonth", "--01-08"}, RefusalRow{"OnlySignForYear", "--02-1"},
         RefusalRow{"NegativeWithoutThird", "-2024-02"}, RefusalRow{"EmptyWeek", "2024--1"},
         RefusalRow{"EmptyWeekday", "2024-02-"}, RefusalRow{"LettersOnly", "a-b-c"},
         RefusalRow{"Slashes", "2024/02/1"}, RefusalRow{"YearBeyond", "5800001-02-1", kOutOfRange},

@@ -114,9 +114,14 @@ TEST(StrToDate, PutsAYearBeyondTheLimitOutOfRange) {
 
 TEST(StrToDate, LooksAtMonthAndDayBeforeTheYearAndAtTheMonthsLengthAfterIt) {
     DateRecord record;
-    const std::int32_t implausible = str_to_date("5800001-13-01", kYMD, record, 'G');
-    EXPECT_NE(implausible, kStrToDateOk);
-    EXPECT_NE(implausible, kStrToDateYearOutOfRange);
+    for (const std::string_view implausible :
+         {"5800001-00-01", "5800001-13-01", "5800001-01-00", "5800001-01-32", "-5800001-00-00"}) {
+        const std::int32_t result = str_to_date(implausible, kYMD, record, 'G');
+        EXPECT_NE(result, kStrToDateOk) << implausible;
+        EXPECT_NE(result, kStrToDateYearOutOfRange) << implausible;
+    }
+    EXPECT_EQ(str_to_date("5800001-01-01", kYMD, record, 'G'), kStrToDateYearOutOfRange);
+    EXPECT_EQ(str_to_date("5800001-12-31", kYMD, record, 'G'), kStrToDateYearOutOfRange);
     EXPECT_EQ(str_to_date("5800001-02-31", kYMD, record, 'G'), kStrToDateYearOutOfRange);
 }
 

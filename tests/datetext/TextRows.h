@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "datetext/ParseStatus.h"
+#include "tests/support/RowName.h"
 
 namespace calvoro {
 
@@ -17,12 +18,6 @@ inline void PrintTo(ParseStatus status, std::ostream* out) {
     *out << (status == ParseStatus::Valid      ? "Valid"
              : status == ParseStatus::NotValid ? "NotValid"
                                                : "OutOfRange");
-}
-
-/// The name of a row is the name of its test.
-template <class Row>
-std::string RowName(const ::testing::TestParamInfo<Row>& info) {
-    return info.param.name;
 }
 
 /// Texts that no reader of dates or numbers accepts.

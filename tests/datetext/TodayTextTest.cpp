@@ -74,11 +74,17 @@ TEST(TodayLabel, NamesEveryWeekday) {
     }
 }
 
-TEST(TodayLabel, EndsAfterTheCommaWhereTheCalendarCannotWriteTheDay) {
+TEST(TodayLabel, WritesAnOrdinalDateByItsFormulaBeyondFourDigitsToo) {
     EXPECT_EQ(TodayLabel(kLastFourDigitDay, CalendarNumber::ORD, TextOptions{}, kEnglish),
               "Today is Friday, 9999-365");
     EXPECT_EQ(TodayLabel(kLastFourDigitDay + 7, CalendarNumber::ORD, TextOptions{}, kEnglish),
-              "Today is Friday, ");
+              "Today is Friday, 10000-007");
+    EXPECT_EQ(TodayLabel(kFirstFourDigitDay - 1, CalendarNumber::ORD, TextOptions{}, kEnglish),
+              "Today is Sunday, 0000-366");
+    TextOptions noHyphen;
+    noHyphen.hyphen = false;
+    EXPECT_EQ(TodayLabel(kLastFourDigitDay + 7, CalendarNumber::ORD, noHyphen, kEnglish),
+              "Today is Friday, 10000007");
     EXPECT_EQ(TodayLabel(kLastFourDigitDay + 7, CalendarNumber::CE, TextOptions{}, kEnglish),
               "Today is Friday, 10,000-01-07 CE");
 }

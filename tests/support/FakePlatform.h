@@ -9,6 +9,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/Platform.h"
@@ -95,9 +96,11 @@ public:
     std::vector<OpenedAddress> opened;
     std::deque<int> results;
     int callsWithoutResult = 0;
+    std::function<void(int)> failLater;  // of the last call
 
     int Open(std::string_view address, std::string_view parameters, std::string_view directory,
-             int windowState) override {
+             int windowState, std::function<void(int)> failedLater) override {
+        failLater = std::move(failedLater);
         opened.push_back(
             {std::string(address), std::string(parameters), std::string(directory), windowState});
         if (results.empty()) {
