@@ -1,10 +1,15 @@
 #include "platform/qt/QtSettingsPlace.h"
 
 #include <QByteArray>
-#include <QDir>
 #include <QStandardPaths>
-#include <filesystem>
-#include <system_error>
+
+#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
+#include <pwd.h>
+#include <unistd.h>
+#endif
+
+#include "platform/ConfigurationFolder.h"
+#include "platform/PrivateFolder.h"
 
 namespace calvoro {
 
@@ -16,26 +21,19 @@ std::string WantedFolder() {
 #elif defined(Q_OS_MACOS)
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
 #else
+    const passwd* const account = ::getpwuid(::geteuid());
+    const bool hasHome = account != nullptr && account->pw_dir != nullptr;
     // The bytes of the environment as they are: a path need not be valid text.
-    const QByteArray configured = qgetenv("XDG_CONFIG_HOME");
-    if (configured.startsWith('/')) return configured.toStdString();
-    const QByteArray home = qgetenv("HOME");
-    return (home.startsWith('/') ? home.toStdString() : QDir::homePath().toStdString()) + "/.config";
+    return ConfigurationFolder(qgetenv("XDG_CONFIG_HOME").toStdString(), qgetenv("HOME").toStdString(),
+                               hasHome ? account->pw_dir : "");
 #endif
-}
-
-std::string WithoutClosingSeparators(std::string path) {
-    while (path.ends_with('/')) path.pop_back();
-    return path;
 }
 
 }  // namespace
 
 std::string QtSettingsPlace::BaseFolder() {
-    std::string folder = WithoutClosingSeparators(WantedFolder());
-    std::error_code ignored;  // what counts is whether the folder is there afterwards
-    std::filesystem::create_directories(folder, ignored);
-    return std::filesystem::is_directory(folder, ignored) ? folder : std::string();
+    const std::string folder = WantedFolder();
+    return !folder.empty() && MakePrivateFolders(folder) ? folder : std::string();
 }
 
 }  // namespace calvoro

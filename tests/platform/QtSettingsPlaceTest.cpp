@@ -6,6 +6,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <pwd.h>
+#include <unistd.h>
+
 namespace calvoro {
 
 class QtSettingsPlaceTest : public QObject {
@@ -50,6 +53,38 @@ private Q_SLOTS:
         const QString wanted = Path(QStringLiteral("home/.config"));
         QCOMPARE(QString::fromStdString(QtSettingsPlace().BaseFolder()), wanted);
         QVERIFY(QFileInfo(wanted).isDir());
+    }
+
+    void IsInTheHomeOfTheUserDatabaseWhereTheEnvironmentNamesNone_data() {
+        QTest::addColumn<QByteArray>("home");
+        QTest::newRow("not set") << QByteArray();
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("not absolute") << QByteArray("home");
+    }
+
+    void IsInTheHomeOfTheUserDatabaseWhereTheEnvironmentNamesNone() {
+        QFETCH(const QByteArray, home);
+        const passwd* const account = ::getpwuid(::geteuid());
+        QVERIFY(account != nullptr);
+        const QString wanted = QFile::decodeName(account->pw_dir) + QStringLiteral("/.config");
+        if (!QFileInfo(wanted).isDir()) QSKIP("the folder would be made in the tester's own home");
+        if (home.isNull()) {
+            qunsetenv("HOME");
+        } else {
+            qputenv("HOME", home);
+        }
+        QCOMPARE(QString::fromStdString(QtSettingsPlace().BaseFolder()), wanted);
+        QVERIFY(!QFileInfo::exists(QStringLiteral("home")));
+    }
+
+    void IsForTheUserAloneWhenItIsMade() {
+        const QString wanted = Path(QStringLiteral("private/configuration"));
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(wanted));
+        QVERIFY(!QtSettingsPlace().BaseFolder().empty());
+        const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
+                                          QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
+        QVERIFY(!(QFile::permissions(wanted) & others));
+        QVERIFY(!(QFile::permissions(Path(QStringLiteral("private"))) & others));
     }
 
     void KeepsBytesThatAreNoText() {

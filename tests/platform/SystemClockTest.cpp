@@ -35,7 +35,7 @@ TEST(SystemClock, GivesTheDateOfTheLocalZone) {
     // At every moment at least one of these zones has another date than the others.
     for (const int hours : {-12, -1, 0, 1, 12}) {
         // The sign of a zone's offset is turned round in TZ.
-        const std::string name = "ZONE" + std::string(hours > 0 ? "-" : "+") + std::to_string(std::abs(hours));
+        const std::string name = (hours > 0 ? "ZONE-" : "ZONE+") + std::to_string(std::abs(hours));
         const TimeZone zone(name.c_str());
         const LocalDate before = DateAtOffset(std::chrono::hours(hours));
         const LocalDate today = SystemClock().Today();

@@ -8,10 +8,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -20,6 +22,10 @@ namespace calvoro {
 namespace {
 
 namespace fs = std::filesystem;
+
+bool Replace(const std::string& path, const std::string& content) {
+    return ReplaceWholeFile(path, [&content](const std::optional<std::string>&) { return content; });
+}
 
 class WholeFile : public testing::Test {
 protected:
@@ -45,11 +51,11 @@ protected:
 TEST_F(WholeFile, HoldsEveryByteThatWasWritten) {
     std::string content;
     for (int i = 0; i < 300'000; ++i) content += static_cast<char>(i * 7);
-    ASSERT_TRUE(ReplaceWholeFile(path_, content));
+    ASSERT_TRUE(Replace(path_, content));
     EXPECT_EQ(ReadWholeFile(path_), content);
-    ASSERT_TRUE(ReplaceWholeFile(path_, "short"));
+    ASSERT_TRUE(Replace(path_, "short"));
     EXPECT_EQ(ReadWholeFile(path_), "short");
-    ASSERT_TRUE(ReplaceWholeFile(path_, ""));
+    ASSERT_TRUE(Replace(path_, ""));
     EXPECT_EQ(ReadWholeFile(path_), "");
     EXPECT_EQ(Names(), kOnlyTheFile);
 }
@@ -64,22 +70,21 @@ TEST_F(WholeFile, IsReadOnlyWhenItIsAnOrdinaryFile) {
 }
 
 TEST_F(WholeFile, IsNotMadeInAMissingFolder) {
-    EXPECT_FALSE(ReplaceWholeFile((folder_ / "missing" / "file").string(), "x"));
-    EXPECT_FALSE(ReplaceWholeFile("", "x"));
+    EXPECT_FALSE(Replace((folder_ / "missing" / "file").string(), "x"));
+    EXPECT_FALSE(Replace("", "x"));
     EXPECT_TRUE(Names().empty());
 }
 
 TEST_F(WholeFile, StaysAsItWasWhenTheDiskIsFull) {
-    ASSERT_TRUE(ReplaceWholeFile(path_, "old"));
+    ASSERT_TRUE(Replace(path_, "old"));
     // A limit on the size of files cuts the writing off as a full disk does; in a process of its own, since
     // the limit stays.
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
-        std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{100, 100};
         ::setrlimit(RLIMIT_FSIZE, &limit);
-        ::_exit(ReplaceWholeFile(path_, std::string(200'000, 'x')) ? 1 : 0);
+        ::_exit(Replace(path_, std::string(200'000, 'x')) ? 1 : 0);
     }
     int status = -1;
     ASSERT_EQ(::waitpid(child, &status, 0), child);
@@ -90,24 +95,82 @@ TEST_F(WholeFile, StaysAsItWasWhenTheDiskIsFull) {
 
 TEST_F(WholeFile, LeavesNoLitterWhenItCannotBeReplaced) {
     fs::create_directories(fs::path(path_) / "in the way");
-    EXPECT_FALSE(ReplaceWholeFile(path_, "x"));
+    EXPECT_FALSE(Replace(path_, "x"));
     EXPECT_EQ(Names(), kOnlyTheFile);
 }
 
 TEST_F(WholeFile, CleansUpAfterAKilledWriter) {
     std::ofstream(path_ + ".new") << "a part of what another process was writing";
-    ASSERT_TRUE(ReplaceWholeFile(path_, "x"));
+    ASSERT_TRUE(Replace(path_, "x"));
     EXPECT_EQ(ReadWholeFile(path_), "x");
     EXPECT_EQ(Names(), kOnlyTheFile);
 }
 
-TEST_F(WholeFile, DoesNotWriteThroughALinkInTheTemporaryName) {
+TEST_F(WholeFile, LeavesALinkInTheTemporaryNameAlone) {
     std::ofstream(folder_ / "precious") << "precious";
     fs::create_symlink(folder_ / "precious", path_ + ".new");
-    EXPECT_FALSE(ReplaceWholeFile(path_, "x"));
+    EXPECT_FALSE(Replace(path_, "x"));
     EXPECT_EQ(ReadWholeFile((folder_ / "precious").string()), "precious");
-    // The link is gone, so the next attempt is good.
-    EXPECT_TRUE(ReplaceWholeFile(path_, "x"));
+    EXPECT_TRUE(fs::is_symlink(path_ + ".new"));
+}
+
+TEST_F(WholeFile, LeavesAPipeInTheTemporaryNameAloneAndDoesNotWaitForIt) {
+    ASSERT_TRUE(Replace(path_, "old"));
+    ASSERT_EQ(::mkfifo((path_ + ".new").c_str(), 0600), 0);
+    EXPECT_FALSE(Replace(path_, "x"));
+    EXPECT_TRUE(fs::is_fifo(path_ + ".new"));
+    EXPECT_EQ(ReadWholeFile(path_), "old");
+}
+
+TEST_F(WholeFile, LeavesAFolderInTheTemporaryNameAlone) {
+    fs::create_directory(path_ + ".new");
+    EXPECT_FALSE(Replace(path_, "x"));
+    EXPECT_TRUE(fs::is_directory(path_ + ".new"));
+}
+
+TEST_F(WholeFile, LeavesWhatIsNoOrdinaryFileAlone) {
+    ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_FALSE(Replace(path_, "x"));
+    DeleteWholeFile(path_);
+    EXPECT_TRUE(fs::is_fifo(path_));
+
+    // A device, where the folder is the tests' own.
+    fs::remove(path_);
+    fs::create_symlink("/dev/null", path_);
+    EXPECT_FALSE(Replace(path_, "x"));
+    DeleteWholeFile(path_);
+    EXPECT_TRUE(fs::is_symlink(path_));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+
+    fs::remove(path_);
+    fs::create_directory(path_);
+    EXPECT_FALSE(Replace(path_, "x"));
+    DeleteWholeFile(path_);
+    EXPECT_TRUE(fs::is_directory(path_));
+    EXPECT_EQ(Names(), kOnlyTheFile);
+}
+
+TEST_F(WholeFile, IsLeftAloneWithoutWritePermission) {
+    ASSERT_TRUE(Replace(path_, "old"));
+    fs::permissions(path_, fs::perms::owner_read);
+    EXPECT_FALSE(Replace(path_, "x"));
+    EXPECT_EQ(ReadWholeFile(path_), "old");
+    DeleteWholeFile(path_);
+    EXPECT_EQ(Names(), kOnlyTheFile);
+}
+
+TEST_F(WholeFile, IsForTheUserAloneWhenItIsNew) {
+    ASSERT_TRUE(Replace(path_, "x"));
+    EXPECT_EQ(fs::status(path_).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(WholeFile, KeepsItsPermissions) {
+    ASSERT_TRUE(Replace(path_, "x"));
+    const auto shared = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read |
+                        fs::perms::group_write | fs::perms::others_read;
+    fs::permissions(path_, shared);
+    ASSERT_TRUE(Replace(path_, "y"));
+    EXPECT_EQ(fs::status(path_).permissions(), shared);
 }
 
 TEST_F(WholeFile, FollowsALinkAndKeepsPermissions) {
@@ -115,10 +178,73 @@ TEST_F(WholeFile, FollowsALinkAndKeepsPermissions) {
     std::ofstream(real) << "old";
     fs::permissions(real, fs::perms::owner_read | fs::perms::owner_write);
     fs::create_symlink(real, path_);
-    ASSERT_TRUE(ReplaceWholeFile(path_, "new"));
+    ASSERT_TRUE(Replace(path_, "new"));
     EXPECT_TRUE(fs::is_symlink(path_));
     EXPECT_EQ(ReadWholeFile(real.string()), "new");
     EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(WholeFile, IsMadeWhereALinkLeads) {
+    fs::create_symlink("another", path_);
+    fs::create_symlink(folder_ / "real", folder_ / "another");
+    ASSERT_TRUE(Replace(path_, "new"));
+    EXPECT_TRUE(fs::is_symlink(path_));
+    EXPECT_FALSE(fs::is_symlink(folder_ / "real"));
+    EXPECT_EQ(ReadWholeFile((folder_ / "real").string()), "new");
+}
+
+TEST_F(WholeFile, IsNotReplacedAtTheEndOfLinksInACircle) {
+    fs::create_symlink("file", path_);
+    EXPECT_FALSE(Replace(path_, "x"));
+    EXPECT_TRUE(fs::is_symlink(path_));
+}
+
+TEST_F(WholeFile, IsMadeFromWhatItHolds) {
+    const auto twice = [](const std::optional<std::string>& current) {
+        return current ? *current + *current : std::string("x");
+    };
+    ASSERT_TRUE(ReplaceWholeFile(path_, twice));
+    ASSERT_TRUE(ReplaceWholeFile(path_, twice));
+    ASSERT_TRUE(ReplaceWholeFile(path_, twice));
+    EXPECT_EQ(ReadWholeFile(path_), "xxxx");
+}
+
+TEST_F(WholeFile, KeepsWhatEveryWriterAdds) {
+    std::vector<pid_t> writers;
+    for (int writer = 0; writer < 3; ++writer) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            bool good = true;
+            for (int round = 0; round < 20; ++round) {
+                good = ReplaceWholeFile(path_,
+                                        [writer](const std::optional<std::string>& current) {
+                                            return current.value_or("") + static_cast<char>('a' + writer);
+                                        }) &&
+                       good;
+            }
+            ::_exit(good ? 0 : 1);
+        }
+        writers.push_back(child);
+    }
+    for (const pid_t writer : writers) {
+        int status = -1;
+        ASSERT_EQ(::waitpid(writer, &status, 0), writer);
+        EXPECT_EQ(status, 0);
+    }
+    const std::string content = ReadWholeFile(path_).value_or("");
+    for (const char letter : {'a', 'b', 'c'}) {
+        EXPECT_EQ(std::count(content.begin(), content.end(), letter), 20) << letter;
+    }
+}
+
+TEST_F(WholeFile, IsDeletedWhetherItIsThereOrNot) {
+    ASSERT_TRUE(Replace(path_, "x"));
+    DeleteWholeFile(path_);
+    EXPECT_TRUE(Names().empty());
+    DeleteWholeFile(path_);
+    DeleteWholeFile("");
+    EXPECT_TRUE(Names().empty());
 }
 
 // Large enough for the writing to be met in the middle.
@@ -126,15 +252,15 @@ const std::string kOne(300'000, 'a');
 const std::string kOther(300'000, 'b');
 
 TEST_F(WholeFile, IsWholeWheneverItsWriterIsKilled) {
-    ASSERT_TRUE(ReplaceWholeFile(path_, kOne));
+    ASSERT_TRUE(Replace(path_, kOne));
     int replaced = 0;
     for (int kill = 0; kill < 60; ++kill) {
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
             for (;;) {
-                ReplaceWholeFile(path_, kOther);
-                ReplaceWholeFile(path_, kOne);
+                Replace(path_, kOther);
+                Replace(path_, kOne);
             }
         }
         ::usleep(static_cast<useconds_t>(500 + kill * 137));
@@ -156,7 +282,7 @@ TEST_F(WholeFile, IsWholeWhenTwoWriteAtOnce) {
         if (child == 0) {
             bool good = true;
             for (int round = 0; round < 50; ++round) {
-                good = ReplaceWholeFile(path_, *content) && good;
+                good = Replace(path_, *content) && good;
                 const auto read = ReadWholeFile(path_);
                 good = good && (read == kOne || read == kOther);
             }
@@ -176,7 +302,7 @@ TEST_F(WholeFile, IsWrittenAllTheSameWhenSomeoneElseKeepsTheFolderLocked) {
     const int folder = ::open(folder_.c_str(), O_RDONLY | O_DIRECTORY);
     ASSERT_GE(folder, 0);
     ASSERT_EQ(::flock(folder, LOCK_EX), 0);
-    EXPECT_TRUE(ReplaceWholeFile(path_, "x"));
+    EXPECT_TRUE(Replace(path_, "x"));
     ::close(folder);
     EXPECT_EQ(ReadWholeFile(path_), "x");
 }

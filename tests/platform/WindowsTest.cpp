@@ -1,0 +1,105 @@
+// The Windows side of platform/, run where Windows programs run.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "platform/Streams.h"
+#include "platform/SystemClock.h"
+#include "platform/WholeFile.h"
+#include "platform/WriteAll.h"
+#include "platform/windows/Shell.h"
+#include "platform/windows/WideText.h"
+
+namespace calvoro {
+namespace {
+
+std::string InTemporaryFolder(const std::string& name) {
+    return (std::filesystem::temp_directory_path() / name).string();
+}
+
+TEST(WideText, IsTheSameTextInUtf16) {
+    EXPECT_EQ(WideText("M\xC3\xA4rz \xF0\x9F\x93\x85"), L"M\u00E4rz \xD83D\xDCC5");
+    EXPECT_EQ(NarrowText(L"M\u00E4rz \xD83D\xDCC5"), "M\xC3\xA4rz \xF0\x9F\x93\x85");
+    EXPECT_EQ(WideText(""), L"");
+    EXPECT_EQ(NarrowText(L""), "");
+}
+
+TEST(WideText, ReplacesWhatIsNotValid) {
+    EXPECT_EQ(WideText("a\xFF"), L"a\uFFFD");
+    EXPECT_EQ(NarrowText(L"a\xD83D"), "a\xEF\xBF\xBD");
+}
+
+TEST(WholeFile, IsReplacedAndReadByteForByte) {
+    const std::string path = InTemporaryFolder("calvoro-M\xC3\xA4rz.txt");
+    const std::string first("one\r\ntwo\n\x1A\0three", 16);
+    ASSERT_TRUE(ReplaceWholeFile(path, first));
+    EXPECT_EQ(ReadWholeFile(path), first);
+    ASSERT_TRUE(ReplaceWholeFile(path, "short"));
+    EXPECT_EQ(ReadWholeFile(path), "short");
+    EXPECT_FALSE(std::filesystem::exists(path + ".new"));
+}
+
+TEST(WholeFile, IsNotMadeInAFolderThatIsMissing) {
+    const std::string path = InTemporaryFolder("calvoro-missing/settings.txt");
+    EXPECT_FALSE(ReplaceWholeFile(path, "text"));
+    EXPECT_EQ(ReadWholeFile(path), std::nullopt);
+}
+
+TEST(Streams, ReadAnOrdinaryFileInBytes) {
+    const std::string path = InTemporaryFolder("calvoro-bytes.txt");
+    ASSERT_TRUE(ReplaceWholeFile(path, "a\r\nb\x1A"));
+    int error = 0;
+    const int descriptor = OpenForReading(path, error);
+    ASSERT_GE(descriptor, 0);
+    EXPECT_EQ(SizeOfFile(descriptor), 5U);
+    EXPECT_FALSE(WouldWait(descriptor));
+    EXPECT_FALSE(IsTerminal(descriptor));
+    char block[16];
+    EXPECT_EQ(ReadSome(descriptor, block, sizeof block, error), 5U);
+    EXPECT_EQ(std::string(block, 5), "a\r\nb\x1A");
+    EXPECT_EQ(ReadSome(descriptor, block, sizeof block, error), 0U);
+    EXPECT_EQ(error, 0);
+    CloseDescriptor(descriptor);
+}
+
+TEST(Streams, TellWhyAFileCannotBeOpened) {
+    int error = 0;
+    EXPECT_LT(OpenForReading(InTemporaryFolder("calvoro-nosuch.txt"), error), 0);
+    EXPECT_EQ(error, ENOENT);
+}
+
+TEST(WriteAll, TellsWhyNothingIsWritten) {
+    int error = 0;
+    const std::string path = InTemporaryFolder("calvoro-read-only.txt");
+    ASSERT_TRUE(ReplaceWholeFile(path, "text"));
+    const int descriptor = OpenForReading(path, error);
+    ASSERT_GE(descriptor, 0);
+    EXPECT_EQ(WriteAll(descriptor, "x"), EBADF);
+    CloseDescriptor(descriptor);
+}
+
+TEST(SystemClock, GivesADayOfThisAge) {
+    const LocalDate today = SystemClock().Today();
+    EXPECT_GE(today.year, 2024);
+    EXPECT_GE(today.month, 1);
+    EXPECT_LE(today.month, 12);
+    EXPECT_GE(today.day, 1);
+    EXPECT_LE(today.day, 31);
+}
+
+TEST(Shell, NamesTheFolderOfRoamingApplicationData) {
+    const std::string folder = RoamingApplicationData();
+    EXPECT_TRUE(std::filesystem::is_directory(folder)) << folder;
+    EXPECT_TRUE(folder.ends_with("/Roaming")) << folder;
+    EXPECT_EQ(folder.find('\\'), std::string::npos) << folder;
+}
+
+TEST(Shell, AnswersWithItsOwnNumberWhenNothingOpensAnAddress) {
+    const int answer = ShellOpen("calvoro-nosuch-scheme:page", "0", "0", 1);
+    EXPECT_TRUE(answer == 2 || answer == 31) << answer;
+}
+
+}  // namespace
+}  // namespace calvoro
