@@ -3,12 +3,9 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QPointer>
 #include <QSessionManager>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -20,6 +17,8 @@
 #include "app/Arguments.h"
 #include "app/EndingSignals.h"
 #include "app/NoDisplay.h"
+#include "datetext/PrintableText.h"
+#include "mainwindow/StartUpTexts.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
@@ -28,7 +27,6 @@
 #include "platform/qt/QtSettingsPlace.h"
 #include "platform/qt/QtWebOpener.h"
 #include "platform/qt/SystemDigitGrouping.h"
-#include "text/ProgramText.h"
 
 namespace {
 
@@ -42,18 +40,9 @@ int Print(std::string_view text) {
 }
 
 int Refuse(const std::string& argument) {
-    std::fprintf(stderr, "calvoro: unknown option or missing value: '%s'; try 'calvoro --help'\n",
-                 argument.c_str());
+    std::fprintf(stderr, "calvoro: unknown option or missing value: %s; try 'calvoro --help'\n",
+                 QuotedText(argument).c_str());
     return kUsageError;
-}
-
-/// The toolkit's own words, such as those on the buttons of a message box, in the system's language.
-void UseToolkitWords(QApplication& application) {
-    auto* const words = new QTranslator(&application);
-    if (words->load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
-                    QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(words);
-    }
 }
 
 /// Saves when Qt ends the process in the middle of the event loop, as it does when the display is gone.
@@ -78,12 +67,7 @@ int ShowWindow(QApplication& application) {
     QtSettingsPlace place;
     const Platform platform{boxes, clipboard, clock, web, place, SystemDigitGrouping()};
 
-    const std::string failure =
-        LoadProgramText(QCoreApplication::applicationDirPath().toStdString(), "calvoro.dat");
-    if (!failure.empty()) {
-        boxes.Show(failure, "", MessageIcon::Critical);
-        return EXIT_FAILURE;
-    }
+    if (!LoadTextsOrTell(QCoreApplication::applicationDirPath().toStdString(), boxes)) return EXIT_FAILURE;
 
     frmMain window(platform, ConfiguredAddresses());
     const auto end = [&window] { window.QuitAndSave(); };
@@ -114,6 +98,5 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     guard.reset();
     QGuiApplication::setDesktopFileName(QStringLiteral("calvoro"));
-    UseToolkitWords(application);
     return ShowWindow(application);
 }

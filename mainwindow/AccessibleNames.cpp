@@ -1,14 +1,15 @@
 #include "mainwindow/AccessibleNames.h"
 
 #include <array>
+#include <string_view>
 
-#include "mainwindow/QtText.h"
+#include "windows/QtText.h"
 
 namespace calvoro {
 namespace {
 
 struct BoxName {
-    QLineEdit* MainControls::*box;
+    InputTextBox* MainControls::*box;
     TextId text;
 };
 constexpr std::array<BoxName, 3> kBoxes = {{
@@ -43,6 +44,28 @@ constexpr std::array<FrameName, 4> kFrames = {{
     {&MainControls::Frame6, TextId::DateDifference},
 }};
 
+// What a button does, where its caption says too little.
+struct ButtonDescription {
+    CaptionButton* MainControls::*button;
+    std::string_view english;
+    std::string_view german;
+};
+constexpr std::array<ButtonDescription, 7> kDescriptions = {{
+    {&MainControls::cmdToday0, "Writes today's date into the box", "Schreibt das heutige Datum in das Feld"},
+    {&MainControls::cmdToday1, "Writes today's date into the box", "Schreibt das heutige Datum in das Feld"},
+    {&MainControls::cmdMoveSecondDateToFirst,
+     "Moves the second date into the box of the first date, in the calendar chosen there",
+     "Bringt das zweite Datum in das Feld des ersten, im dort gewaehlten Kalender"},
+    {&MainControls::cmdCompute, "Computes from the boxes that are filled what the others would hold",
+     "Berechnet aus den ausgefuellten Feldern, was die anderen enthielten"},
+    {&MainControls::cmdEnlarge, "Shows the output in a window of its own",
+     "Zeigt die Ausgabe in einem eigenen Fenster"},
+    {&MainControls::cmdDisplayMonth, "Shows the month of the first date as a calendar",
+     "Zeigt den Monat des ersten Datums als Kalender"},
+    {&MainControls::cmdReset, "After a question, deletes the settings and empties all boxes",
+     "Loescht nach einer Frage die Einstellungen und leert alle Felder"},
+}};
+
 }  // namespace
 
 void SetAccessibleNames(const MainControls& controls, const Texts& texts) {
@@ -58,6 +81,11 @@ void SetAccessibleNames(const MainControls& controls, const Texts& texts) {
     }
 
     for (const FrameName& row : kFrames) (controls.*row.frame)->setAccessibleName(shown(row.text));
+    const bool german = texts.InterfaceLanguage == LanguageGerman;
+    controls.frmLanguage->setAccessibleName(german ? QStringLiteral("Sprache") : QStringLiteral("Language"));
+    for (const ButtonDescription& row : kDescriptions) {
+        (controls.*row.button)->setAccessibleDescription(ToQt(german ? row.german : row.english));
+    }
     const QString calendar = shown(TextId::Calendar);
     controls.Frame3->setAccessibleName(joined(shown(TextId::FirstDate), calendar));
     controls.Frame4->setAccessibleName(joined(shown(TextId::SecondDate), calendar));

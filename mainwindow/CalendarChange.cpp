@@ -1,18 +1,13 @@
 #include "mainwindow/CalendarChange.h"
 
+#include "datetext/AnyNotation.h"
 #include "datetext/Blanks.h"
-#include "mainwindow/BoxDate.h"
 #include "mainwindow/ControlTables.h"
 
 namespace calvoro {
-namespace {
-
-constexpr std::int16_t kCannotConvertTitle = 150;
-
-}  // namespace
-
-CalendarChange::CalendarChange(const MainControls& controls, const WindowOptions& options, MainState& state,
-                               const Platform& platform, InputBoxes& boxes, TodayLine& todayLine)
+CalendarChange::CalendarChange(const MainControls& controls, const WindowOptions& options,
+                               const MainState& state, const Platform& platform, InputBoxes& boxes,
+                               TodayLine& todayLine)
     : controls_(controls),
       options_(options),
       state_(state),
@@ -20,25 +15,30 @@ CalendarChange::CalendarChange(const MainControls& controls, const WindowOptions
       boxes_(boxes),
       todayLine_(todayLine) {}
 
+void CalendarChange::Remember(CalendarNumber first, CalendarNumber second) {
+    first_.calendar = first;
+    second_.calendar = second;
+}
+
 void CalendarChange::ChangeFirstDateCalendar(CalendarNumber newCalendar) {
-    Change(kFirst, newCalendar);
+    Change(first_, newCalendar);
 }
 
 void CalendarChange::ChangeSecondDateCalendar(CalendarNumber newCalendar) {
-    Change(kSecond, newCalendar);
+    Change(second_, newCalendar);
 }
 
-void CalendarChange::Change(const Side& side, CalendarNumber newCalendar) {
+void CalendarChange::Change(Side& side, CalendarNumber newCalendar) {
     boxes_.SetText(side.box, TrimBlanks(boxes_.Text(side.box)));
     if (boxes_.Text(side.box).empty() || !state_.FormReady) {
-        state_.*side.boxCalendar = newCalendar;
+        side.calendar = newCalendar;
         boxes_.SetTheFocus();
         return;
     }
     todayLine_.Refresh();
     const Outcome outcome = Convert(side, newCalendar);
     if (outcome == Outcome::Converted) {
-        state_.*side.boxCalendar = newCalendar;
+        side.calendar = newCalendar;
         boxes_.Select(InputBox::Difference);
     } else {
         RestoreCalendar(side, outcome);
@@ -48,8 +48,10 @@ void CalendarChange::Change(const Side& side, CalendarNumber newCalendar) {
 
 CalendarChange::Outcome CalendarChange::Convert(const Side& side, CalendarNumber to) {
     const TextOptions textOptions = options_.ReadTextOptions();
-    const auto [status, record] = ReadBoxDate(state_.*side.boxCalendar, boxes_.Text(side.box), textOptions);
-    if (status != ParseStatus::Valid) return Outcome::NotRead;
+    DateRecord record;
+    if (ReadDate(side.calendar, boxes_.Text(side.box), textOptions, record) != ParseStatus::Valid) {
+        return Outcome::NotRead;
+    }
     // Deliberate: a day that the new calendar cannot write goes back without a word.
     if (!CanWriteDate(to, record.jdn)) return Outcome::Abandoned;
     boxes_.SetText(side.box, WriteDate(to, record.jdn, textOptions));
@@ -57,9 +59,9 @@ CalendarChange::Outcome CalendarChange::Convert(const Side& side, CalendarNumber
 }
 
 void CalendarChange::RestoreCalendar(const Side& side, Outcome outcome) {
-    controls_.Calendars(side.box)->Choose(RowOf(kCalendarOptions, state_.*side.boxCalendar));
+    controls_.Calendars(side.box)->Choose(RowOf(kCalendarOptions, side.calendar));
     if (outcome == Outcome::Abandoned) return;
-    platform_.boxes.Show(state_.texts.Numbered(side.message), state_.texts.Numbered(kCannotConvertTitle),
+    platform_.boxes.Show(state_.texts.Numbered(side.message), state_.texts.Numbered(kCannotConvertTitleText),
                          MessageIcon::NoIcon);
 }
 

@@ -7,13 +7,17 @@
 
 #include "mainwindow/InputBoxes.h"
 #include "mainwindow/TodayLine.h"
+#include "text/NumberedTexts.h"
 
 namespace calvoro {
 
 class CalendarChange {
 public:
-    CalendarChange(const MainControls& controls, const WindowOptions& options, MainState& state,
+    CalendarChange(const MainControls& controls, const WindowOptions& options, const MainState& state,
                    const Platform& platform, InputBoxes& boxes, TodayLine& todayLine);
+
+    /// The calendars in which the texts of the two boxes stand from now on.
+    void Remember(CalendarNumber first, CalendarNumber second);
 
     void ChangeFirstDateCalendar(CalendarNumber newCalendar);
     void ChangeSecondDateCalendar(CalendarNumber newCalendar);
@@ -22,24 +26,24 @@ private:
     // What differs between the two date boxes.
     struct Side {
         InputBox box;
-        CalendarNumber MainState::*boxCalendar;
-        std::int16_t message;  // number of the text for a date that does not read
+        NumberedText message;                          // the text for a date that does not read
+        CalendarNumber calendar = CalendarNumber::CE;  // in which the box's text stands
     };
-    static constexpr Side kFirst = {InputBox::FirstDate, &MainState::firstBoxCalendar, 156};
-    static constexpr Side kSecond = {InputBox::SecondDate, &MainState::secondBoxCalendar, 157};
 
     enum class Outcome { Converted, NotRead, Abandoned };
 
-    void Change(const Side& side, CalendarNumber newCalendar);
+    void Change(Side& side, CalendarNumber newCalendar);
     Outcome Convert(const Side& side, CalendarNumber to);
     void RestoreCalendar(const Side& side, Outcome outcome);
 
     const MainControls& controls_;
     const WindowOptions& options_;
-    MainState& state_;
+    const MainState& state_;
     const Platform& platform_;
     InputBoxes& boxes_;
     TodayLine& todayLine_;
+    Side first_ = {InputBox::FirstDate, kFirstDateNotValidText};
+    Side second_ = {InputBox::SecondDate, kSecondDateNotValidText};
 };
 
 }  // namespace calvoro

@@ -5,8 +5,8 @@
 
 #include "mainwindow/AccessibleNames.h"
 #include "mainwindow/ControlTables.h"
-#include "mainwindow/QtText.h"
 #include "windows/Mnemonics.h"
+#include "windows/QtText.h"
 
 namespace calvoro {
 namespace {
@@ -17,38 +17,43 @@ struct CaptionRow {
     TextId text;
 };
 
-constexpr std::array<CaptionRow<QLabel>, 6> kLabels = {{
+constexpr std::array<CaptionRow<QLabel>, 4> kLabels = {{
     {&MainControls::lblOr, TextId::Or},
-    {&MainControls::lblThisIsA0, TextId::ThisIsA},
-    {&MainControls::lblThisIsA1, TextId::ThisIsA},
     {&MainControls::lblDateFormat, TextId::DateFormatCaption},
     {&MainControls::lblDateSeparator, TextId::DateSeparatorCaption},
     {&MainControls::lblThousandsSeparator, TextId::ThousandsSeparator},
 }};
 
-// The captions that carry a key. Labels come first: their keys lead to the boxes beside them.
-constexpr std::array<CaptionRow<QLabel>, 3> kLabelsWithKeys = {{
+// The captions that carry a key: first those that get their natural letter, the labels with the boxes beside
+// them before the buttons; then the labels that lead to the calendars, and what is left.
+constexpr std::array<CaptionRow<QLabel>, 3> kBoxLabels = {{
     {&MainControls::lblFirstDate, TextId::FirstDate},
     {&MainControls::lblDateDifference, TextId::DateDifference},
     {&MainControls::lblSecondDate, TextId::SecondDate},
 }};
-constexpr std::array<CaptionRow<CaptionButton>, 14> kButtons = {{
+constexpr std::array<CaptionRow<CaptionButton>, 5> kFirstButtons = {{
     {&MainControls::cmdCompute, TextId::Compute},
+    {&MainControls::cmdHelp, TextId::Help},
+    {&MainControls::cmdQuit, TextId::Quit},
+    {&MainControls::cmdDisplayMonth, TextId::DisplayMonth},
+    {&MainControls::cmdReset, TextId::Reset},
+}};
+constexpr std::array<CaptionRow<QLabel>, 2> kCalendarLabels = {{
+    {&MainControls::lblThisIsA0, TextId::ThisIsA},
+    {&MainControls::lblThisIsA1, TextId::ThisIsA},
+}};
+constexpr std::array<CaptionRow<CaptionButton>, 9> kButtons = {{
     {&MainControls::cmdToday0, TextId::Today},
     {&MainControls::cmdToday1, TextId::Today},
+    {&MainControls::cmdMoveSecondDateToFirst, TextId::SecondToFirst},
+    {&MainControls::cmdCopyToClipboard, TextId::CopyToClipboard},
+    {&MainControls::cmdEnlarge, TextId::Enlarge},
     {&MainControls::cmdClearFirstDate, TextId::Clear},
     {&MainControls::cmdClearDateDiff, TextId::Clear},
     {&MainControls::cmdClearSecondDate, TextId::Clear},
-    {&MainControls::cmdMoveSecondDateToFirst, TextId::SecondToFirst},
     {&MainControls::cmdClearOutputWindow, TextId::Clear},
-    {&MainControls::cmdCopyToClipboard, TextId::CopyToClipboard},
-    {&MainControls::cmdEnlarge, TextId::Enlarge},
-    {&MainControls::cmdDisplayMonth, TextId::DisplayMonth},
-    {&MainControls::cmdHelp, TextId::Help},
-    {&MainControls::cmdReset, TextId::Reset},
-    {&MainControls::cmdQuit, TextId::Quit},
 }};
-constexpr std::array<CaptionRow<QCheckBox>, 5> kCheckBoxes = {{
+constexpr std::array<CaptionRow<HandCheckBox>, 5> kCheckBoxes = {{
     {&MainControls::chkIncludeFirstDate, TextId::IncludeFirstDate},
     {&MainControls::chkIncludeWeekends, TextId::CountWeekendDays},
     {&MainControls::chkVerbose, TextId::Verbose},
@@ -63,10 +68,13 @@ void SetCaptionsWithKeys(const MainControls& controls, const Texts& texts) {
         SetCaption(*control, ToQt(texts.Shown(row.text)));
         withKeys.push_back(control);
     };
-    std::for_each(kLabelsWithKeys.begin(), kLabelsWithKeys.end(), show);
-    std::for_each(kButtons.begin(), kButtons.end(), show);
+    std::for_each(kBoxLabels.begin(), kBoxLabels.end(), show);
+    std::for_each(kFirstButtons.begin(), kFirstButtons.end(), show);
+    const qsizetype firstServed = withKeys.size();
+    std::for_each(kCalendarLabels.begin(), kCalendarLabels.end(), show);
     std::for_each(kCheckBoxes.begin(), kCheckBoxes.end(), show);
-    SetMnemonics(withKeys);
+    std::for_each(kButtons.begin(), kButtons.end(), show);
+    SetMnemonics(withKeys, firstServed);
 }
 
 QString DateFormatCaption(const DateFormatOption& row, LanguageNumber language) {

@@ -6,6 +6,8 @@
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
+#include "windows/Contrast.h"
+
 namespace calvoro {
 namespace {
 
@@ -54,11 +56,25 @@ ClickableLabel::ClickableLabel(QWidget* parent) : QLabel(parent) {
 
 void ClickableLabel::ShowAsLink() {
     role_ = QAccessible::Link;
-    setForegroundRole(QPalette::Link);
+    FollowPalette();
     setCursor(Qt::PointingHandCursor);
     QFont underlined = font();
     underlined.setUnderline(true);
     setFont(underlined);
+}
+
+// A theme that says nothing of links leaves them the dark blue of a light one. The underline remains.
+void ClickableLabel::FollowPalette() {
+    const QColor link = palette().color(QPalette::Link);
+    const bool isRead = Contrast(link, palette().color(QPalette::Window)) >= kLeastContrast;
+    const QPalette::ColorRole role = isRead ? QPalette::Link : QPalette::WindowText;
+    if (role != foregroundRole()) setForegroundRole(role);
+}
+
+void ClickableLabel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    const bool colours = event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange;
+    if (colours && role_ == QAccessible::Link) FollowPalette();
 }
 
 void ClickableLabel::ContinueCaption() {

@@ -14,7 +14,8 @@ class ClickableLabel : public QLabel {
 public:
     explicit ClickableLabel(QWidget* parent);
 
-    /// Underlined, in the palette's link colour, with the pointing hand.
+    /// Underlined, with the pointing hand, in the palette's link colour, or in that of other text where the
+    /// palette's links can hardly be read.
     void ShowAsLink();
 
     /// The second half of the caption of the control in front of it, which the keyboard reaches already.
@@ -30,6 +31,7 @@ Q_SIGNALS:
     void PressedBackward();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -37,6 +39,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void FollowPalette();
+
     QAccessible::Role role_ = QAccessible::Button;
 };
 

@@ -21,7 +21,7 @@ struct CalendarOption {
     std::string_view secondName;  // of the button for the second date
     TextId caption;
 };
-inline constexpr std::array<CalendarOption, 7> kCalendarOptions = {{
+inline constexpr std::array<CalendarOption, kOfferedNotations.size()> kCalendarOptions = {{
     {CalendarNumber::CE, "optFirstDateIsCE", "optSecondDateIsCE", TextId::CommonEraDate},
     {CalendarNumber::JC, "optFirstDateIsJC", "optSecondDateIsJC", TextId::JulianCalendarDate},
     {CalendarNumber::ISO, "optFirstDateIsISO", "optSecondDateIsISO", TextId::ISOWeekDate},
@@ -30,6 +30,7 @@ inline constexpr std::array<CalendarOption, 7> kCalendarOptions = {{
     {CalendarNumber::LPM, "optFirstDateIsLPM", "optSecondDateIsLPM", TextId::LeapWeekMonthDate},
     {CalendarNumber::LPW, "optFirstDateIsLPW", "optSecondDateIsLPW", TextId::LeapWeekWeekDate},
 }};
+static_assert(HoldsEachOfferedNotation(kCalendarOptions, &CalendarOption::value));
 
 struct DateFormatOption {
     DateFormat value;

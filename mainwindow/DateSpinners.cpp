@@ -5,23 +5,15 @@
 #include "compute/DateStep.h"
 
 namespace calvoro {
-namespace {
-
-InputBox BoxOf(int index) {
-    return index == 0 ? InputBox::FirstDate : InputBox::SecondDate;
-}
-
-}  // namespace
 
 DateSpinners::DateSpinners(const MainControls& controls, InputBoxes& boxes, MainComputeWindow& window)
     : controls_(controls), boxes_(boxes), window_(window) {}
 
-void DateSpinners::VScroll(int index, int value) {
+void DateSpinners::VScroll(InputBox box, int value) {
     // An arrow that is held down goes on repeating behind the message of its first step.
     if (stepping_) return;
     const QScopedValueRollback<bool> step(stepping_, true);
 
-    const InputBox box = BoxOf(index);
     const std::string text = boxes_.Text(box);
     if (text.empty()) {
         boxes_.SetTheFocus();
@@ -39,11 +31,11 @@ void DateSpinners::VScroll(int index, int value) {
     }
     // Deliberate: a difference belongs to the date before the step, also where the step was refused.
     controls_.txbDateDiff->clear();
-    SelectDateBox(index + 1);
+    SelectDateBox(box);
 }
 
-void DateSpinners::SelectDateBox(int n) {
-    boxes_.Select(BoxOf(n - 1));
+void DateSpinners::SelectDateBox(InputBox box) {
+    boxes_.Select(box);
 }
 
 }  // namespace calvoro

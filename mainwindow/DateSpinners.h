@@ -12,13 +12,13 @@ public:
     DateSpinners(const MainControls& controls, InputBoxes& boxes, MainComputeWindow& window);
 
     /// Steps the date in a box, empties the difference and selects the date.
-    /// index  0 for the first box, 1 for the second
+    /// box    FirstDate or SecondDate
     /// value  days to go; 0 does nothing
-    void VScroll(int index, int value);
+    void VScroll(InputBox box, int value);
 
     /// Focuses a date box and selects its text.
-    /// n  1 for the first box, 2 for the second
-    void SelectDateBox(int n);
+    /// box  FirstDate or SecondDate
+    void SelectDateBox(InputBox box);
 
 private:
     const MainControls& controls_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "datetext/AnyNotation.h"
 #include "datetext/IsoWeekText.h"
 #include "datetext/OrdinalText.h"
 
@@ -37,9 +38,10 @@ TextShape Shape(std::string_view text, CalendarNumber calendar) {
 }  // namespace
 
 std::string WithHyphens(std::string_view text, CalendarNumber calendar, bool hyphen) {
-    const TextShape shape = Shape(text, calendar);
-    if (hyphen && shape == TextShape::Compact) return Hyphenated(text, calendar);
-    if (!hyphen && shape == TextShape::Hyphenated) return Compact(text);
+    const std::string_view date = DateAlone(NotationOf(calendar), text);
+    const TextShape shape = Shape(date, calendar);
+    if (hyphen && shape == TextShape::Compact) return Hyphenated(date, calendar);
+    if (!hyphen && shape == TextShape::Hyphenated) return Compact(date);
     return std::string(text);
 }
 

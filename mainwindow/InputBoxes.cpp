@@ -5,10 +5,10 @@
 
 #include "calendar/Today.h"
 #include "compute/ComputeMessages.h"
+#include "datetext/AnyNotation.h"
 #include "datetext/TodayText.h"
-#include "mainwindow/BoxDate.h"
 #include "mainwindow/Hyphens.h"
-#include "mainwindow/QtText.h"
+#include "windows/QtText.h"
 
 namespace calvoro {
 namespace {
@@ -39,20 +39,24 @@ void InputBoxes::SetTheFocus() {
     const auto firstEmpty = std::find_if(kBoxes.begin(), kBoxes.end(), isEmpty);
     const auto filled = std::count_if(kBoxes.begin(), kBoxes.end(), std::not_fn(isEmpty));
     if (filled >= 2 || firstEmpty == kBoxes.end()) {
-        controls_.cmdCompute->setFocus();
+        Focus(*controls_.cmdCompute);
     } else {
-        controls_.Box(*firstEmpty)->setFocus();
+        Focus(*controls_.Box(*firstEmpty));
     }
 }
 
+void InputBoxes::Focus(QWidget& control) {
+    if (!focusHeld_) control.setFocus();
+}
+
 void InputBoxes::Select(InputBox box) {
-    controls_.Box(box)->setFocus();
+    Focus(*controls_.Box(box));
     controls_.Box(box)->selectAll();
 }
 
 void InputBoxes::ClearInputBoxes() {
     for (const InputBox box : kBoxes) controls_.Box(box)->clear();
-    if (state_.FormReady) controls_.txbFirstDate->setFocus();
+    if (state_.FormReady) Focus(*controls_.txbFirstDate);
 }
 
 void InputBoxes::Clear(InputBox box) {
@@ -73,8 +77,9 @@ void InputBoxes::MoveSecondDateToFirst() {
     }
     const TextOptions textOptions = options_.ReadTextOptions();
     const CalendarNumber first = options_.GetCal(InputBox::FirstDate);
-    const auto [status, record] =
-        ReadBoxDate(options_.GetCal(InputBox::SecondDate), Text(InputBox::SecondDate), textOptions);
+    DateRecord record;
+    const ParseStatus status =
+        ReadDate(options_.GetCal(InputBox::SecondDate), Text(InputBox::SecondDate), textOptions, record);
     const bool valid = status == ParseStatus::Valid;
     if (!valid || !CanWriteDate(first, record.jdn)) {
         const Texts& texts = state_.texts;

@@ -3,6 +3,7 @@
 // The three input boxes: their texts, where the focus goes, and the small commands that empty, fill, move
 // and rewrite them.
 
+#include <QScopedValueRollback>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,11 @@ public:
 
     std::string Text(InputBox box) const;
     void SetText(InputBox box, std::string_view text);
+
+    /// Leaves the focus where it is, as long as the result lives: none of the steps below moves it.
+    [[nodiscard]] QScopedValueRollback<bool> HoldFocus(bool hold) {
+        return QScopedValueRollback<bool>(focusHeld_, focusHeld_ || hold);
+    }
 
     /// Where the next step is: cmdCompute when two boxes are filled, else the first empty box. Nothing
     /// before the window is ready.
@@ -47,10 +53,13 @@ public:
     void RewriteHyphens();
 
 private:
+    void Focus(QWidget& control);
+
     const MainControls& controls_;
     const WindowOptions& options_;
     const MainState& state_;
     const Platform& platform_;
+    bool focusHeld_ = false;
 };
 
 }  // namespace calvoro

@@ -1,5 +1,6 @@
 #include "mainwindow/InputKeys.h"
 
+#include <QCoreApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <algorithm>
@@ -19,13 +20,19 @@ constexpr std::array<std::pair<QKeySequence::StandardKey, int>, 3> kFilteredComm
 }};
 constexpr int kBackspaceCode = 8;
 
-// Whether a line edit would insert the text of a key.
+// Whether a line edit would insert the text of a key: also format characters, characters for private use and
+// those beyond the basic plane, which come as two units.
 bool TypesText(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    if (modifiers == Qt::ControlModifier || modifiers == (Qt::ControlModifier | Qt::ShiftModifier)) {
-        return false;
-    }
-    return !event.text().isEmpty() && event.text().at(0).isPrint();
+    const QString text = event.text();
+    if (text.isEmpty()) return false;
+    const QChar first = text.at(0);
+    if (first.category() == QChar::Other_Format) return true;
+    if ((event.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier) return false;
+    return first.isPrint() || first.category() == QChar::Other_PrivateUse || first.isHighSurrogate();
+}
+
+bool IsEnter(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -42,9 +49,8 @@ bool InputKeys::eventFilter(QObject* watched, QEvent* event) {
                          : watched == controls_.txbDateDiff ? InputBox::Difference
                                                             : InputBox::SecondDate;
     if (event->type() == QEvent::KeyPress) return HandleKey(box, *static_cast<QKeyEvent*>(event));
-    // An input method hands over what was typed as a finished text.
     if (event->type() == QEvent::InputMethod) {
-        return !MayBeTyped(box, static_cast<QInputMethodEvent*>(event)->commitString());
+        return HandleInputMethod(box, *static_cast<QInputMethodEvent*>(event));
     }
     return false;
 }
@@ -52,8 +58,9 @@ bool InputKeys::eventFilter(QObject* watched, QEvent* event) {
 // returns whether the key is swallowed
 bool InputKeys::HandleKey(InputBox box, const QKeyEvent& event) {
     const int key = event.key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        Q_EMIT EnterPressed();
+    if (IsEnter(key)) {
+        // Held down it computes once.
+        if (!event.isAutoRepeat()) Q_EMIT EnterPressed();
         return true;
     }
     const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -68,9 +75,20 @@ bool InputKeys::HandleKey(InputBox box, const QKeyEvent& event) {
     return TypesText(event) && !MayBeTyped(box, event.text());
 }
 
-bool InputKeys::MayBeTyped(InputBox box, int key) const {
+// An input method hands over what was typed as a finished text, which goes in as a whole or not at all.
+// returns whether the event is swallowed
+bool InputKeys::HandleInputMethod(InputBox box, const QInputMethodEvent& event) {
+    if (MayBeTyped(box, event.commitString())) return false;
+    // What is still being composed is shown all the same.
+    QInputMethodEvent composing(event.preeditString(), event.attributes());
+    QCoreApplication::sendEvent(controls_.Box(box), &composing);
+    return true;
+}
+
+// typedBefore  characters of the same text that go in before this one
+bool InputKeys::MayBeTyped(InputBox box, int key, int typedBefore) const {
     // Deliberate: a selection that the key would replace counts in the length.
-    const int length = static_cast<int>(controls_.Box(box)->text().size());
+    const int length = static_cast<int>(controls_.Box(box)->text().size()) + typedBefore;
     const TextOptions options = options_.ReadTextOptions();
     if (box == InputBox::Difference) {
         return NumberKeyFilter(key, length, kMaxInputLength, options.thousandsSeparator);
@@ -80,8 +98,9 @@ bool InputKeys::MayBeTyped(InputBox box, int key) const {
 }
 
 bool InputKeys::MayBeTyped(InputBox box, const QString& text) const {
+    int typed = 0;
     return std::all_of(text.begin(), text.end(),
-                       [this, box](QChar character) { return MayBeTyped(box, int{character.unicode()}); });
+                       [&](QChar character) { return MayBeTyped(box, int{character.unicode()}, typed++); });
 }
 
 }  // namespace calvoro

@@ -34,7 +34,8 @@ protected:
 
 private:
     bool HandleKey(InputBox box, const QKeyEvent& event);
-    bool MayBeTyped(InputBox box, int key) const;
+    bool HandleInputMethod(InputBox box, const QInputMethodEvent& event);
+    bool MayBeTyped(InputBox box, int key, int typedBefore = 0) const;
     bool MayBeTyped(InputBox box, const QString& text) const;
 
     const MainControls& controls_;

@@ -3,7 +3,8 @@
 #include <cassert>
 
 #include "mainwindow/ControlTables.h"
-#include "mainwindow/QtText.h"
+#include "windows/AccessibleRole.h"
+#include "windows/QtText.h"
 
 namespace calvoro {
 namespace {
@@ -20,6 +21,14 @@ OptionGroup* MakeOptions(QFrame* frame, const Table& table, std::string_view Row
     QStringList names;
     for (const Row& row : table) names.push_back(ToQt(row.*name));
     return new OptionGroup(frame, names);
+}
+
+// The one of a kind of controls that stands at a box.
+template <typename Control>
+Control* OfBox(InputBox box, Control* first, Control* difference, Control* second) {
+    Control* control = box == InputBox::FirstDate ? first : box == InputBox::Difference ? difference : second;
+    assert(control != nullptr);
+    return control;
 }
 
 }  // namespace
@@ -39,9 +48,9 @@ MainControls::MainControls(QWidget* window)
       lblDateDifference(Make<QLabel>(window, "lblDateDifference")),
       lblOr(Make<QLabel>(window, "lblOr")),
       lblSecondDate(Make<QLabel>(window, "lblSecondDate")),
-      txbFirstDate(Make<QLineEdit>(window, "txbFirstDate")),
-      txbDateDiff(Make<QLineEdit>(window, "txbDateDiff")),
-      txbSecondDate(Make<QLineEdit>(window, "txbSecondDate")),
+      txbFirstDate(Make<InputTextBox>(window, "txbFirstDate")),
+      txbDateDiff(Make<InputTextBox>(window, "txbDateDiff")),
+      txbSecondDate(Make<InputTextBox>(window, "txbSecondDate")),
       VScroll0(Make<SpinArrows>(window, "VScroll0")),
       VScroll1(Make<SpinArrows>(window, "VScroll1")),
       cmdToday0(Make<CaptionButton>(window, "cmdToday0")),
@@ -55,8 +64,8 @@ MainControls::MainControls(QWidget* window)
       firstCalendars(MakeOptions(Frame3, kCalendarOptions, &CalendarOption::firstName)),
       secondCalendars(MakeOptions(Frame4, kCalendarOptions, &CalendarOption::secondName)),
       units(MakeOptions(Frame6, kUnitOptions, &UnitOption::name)),
-      chkIncludeFirstDate(Make<QCheckBox>(window, "chkIncludeFirstDate")),
-      chkIncludeWeekends(Make<QCheckBox>(window, "chkIncludeWeekends")),
+      chkIncludeFirstDate(Make<HandCheckBox>(window, "chkIncludeFirstDate")),
+      chkIncludeWeekends(Make<HandCheckBox>(window, "chkIncludeWeekends")),
       cmdCompute(Make<CaptionButton>(window, "cmdCompute")),
       lblDateFormat(Make<QLabel>(window, "lblDateFormat")),
       lblDateSeparator(Make<QLabel>(window, "lblDateSeparator")),
@@ -64,27 +73,35 @@ MainControls::MainControls(QWidget* window)
       dateFormats(MakeOptions(frmDateFormat, kDateFormatOptions, &DateFormatOption::name)),
       dateSeparators(MakeOptions(frmDateSeparator, kDateSeparatorOptions, &DateSeparatorOption::name)),
       thousandsSeparators(MakeOptions(Frame5, kThousandsOptions, &ThousandsOption::name)),
-      chkHyphen(Make<QCheckBox>(window, "chkHyphen")),
+      chkHyphen(Make<HandCheckBox>(window, "chkHyphen")),
       lblHyphen(Make<ClickableLabel>(window, "lblHyphen")),
-      txbOutput(Make<OutputTextBox>(window, "txbOutput")),
+      txbOutput(Make<CrLfTextBox>(window, "txbOutput")),
       cmdClearOutputWindow(Make<CaptionButton>(window, "cmdClearOutputWindow")),
       cmdCopyToClipboard(Make<CaptionButton>(window, "cmdCopyToClipboard")),
       cmdEnlarge(Make<CaptionButton>(window, "cmdEnlarge")),
-      chkVerbose(Make<QCheckBox>(window, "chkVerbose")),
-      chkSaveOutput(Make<QCheckBox>(window, "chkSaveOutput")),
+      chkVerbose(Make<HandCheckBox>(window, "chkVerbose")),
+      chkSaveOutput(Make<HandCheckBox>(window, "chkSaveOutput")),
       cmdDisplayMonth(Make<CaptionButton>(window, "cmdDisplayMonth")),
       cmdHelp(Make<CaptionButton>(window, "cmdHelp")),
       cmdReset(Make<CaptionButton>(window, "cmdReset")),
       cmdQuit(Make<CaptionButton>(window, "cmdQuit")),
       lblOnlineDocumentation(Make<ClickableLabel>(window, "lblOnlineDocumentation")),
       lblVantorelSystems(Make<ClickableLabel>(window, "lblVantorelSystems")),
+      lblReading(Make<QLabel>(window, "lblReading")),
       Clock(new QTimer(window)) {
     Clock->setObjectName(QStringLiteral("Clock"));
     Clock->setInterval(1000);
 
+    for (QFrame* group : {Frame3, Frame4, Frame5, Frame6, frmDateFormat, frmDateSeparator, frmLanguage}) {
+        SetAccessibleRole(*group, QAccessible::Grouping);
+    }
+    lblThisIsA0->setBuddy(Frame3);
+    lblThisIsA1->setBuddy(Frame4);
     lblFirstDate->setBuddy(txbFirstDate);
     lblDateDifference->setBuddy(txbDateDiff);
     lblSecondDate->setBuddy(txbSecondDate);
+
+    lblReading->setTextFormat(Qt::PlainText);
 
     lblHyphen->ContinueCaption();
     lblOnlineDocumentation->ShowAsLink();
@@ -93,24 +110,24 @@ MainControls::MainControls(QWidget* window)
     chkSaveOutput->setEnabled(false);  // until start-up switches it on
 }
 
-QLineEdit* MainControls::Box(InputBox box) const {
-    switch (box) {
-        case InputBox::FirstDate: return txbFirstDate;
-        case InputBox::Difference: return txbDateDiff;
-        case InputBox::SecondDate: return txbSecondDate;
-    }
-    assert(false);
-    return nullptr;
+InputTextBox* MainControls::Box(InputBox box) const {
+    return OfBox(box, txbFirstDate, txbDateDiff, txbSecondDate);
 }
 
 OptionGroup* MainControls::Calendars(InputBox box) const {
-    assert(box != InputBox::Difference);
-    return box == InputBox::FirstDate ? firstCalendars : secondCalendars;
+    return OfBox<OptionGroup>(box, firstCalendars, nullptr, secondCalendars);
 }
 
 SpinArrows* MainControls::Spinner(InputBox box) const {
-    assert(box != InputBox::Difference);
-    return box == InputBox::FirstDate ? VScroll0 : VScroll1;
+    return OfBox<SpinArrows>(box, VScroll0, nullptr, VScroll1);
+}
+
+CaptionButton* MainControls::Today(InputBox box) const {
+    return OfBox<CaptionButton>(box, cmdToday0, nullptr, cmdToday1);
+}
+
+CaptionButton* MainControls::Clear(InputBox box) const {
+    return OfBox(box, cmdClearFirstDate, cmdClearDateDiff, cmdClearSecondDate);
 }
 
 }  // namespace calvoro

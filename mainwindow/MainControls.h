@@ -3,18 +3,18 @@
 // The controls of the main window, made once, each under its name. They come without captions, and in no
 // place: Captions and MainLayout see to that.
 
-#include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTimer>
 
 #include "compute/ComputeWindow.h"
-#include "mainwindow/CaptionButton.h"
 #include "mainwindow/ClickableLabel.h"
+#include "mainwindow/HandButton.h"
+#include "mainwindow/InputTextBox.h"
 #include "mainwindow/OptionGroup.h"
-#include "mainwindow/OutputTextBox.h"
 #include "mainwindow/SpinArrows.h"
+#include "windows/CaptionButton.h"
+#include "windows/CrLfTextBox.h"
 
 namespace calvoro {
 
@@ -25,13 +25,19 @@ struct MainControls {
     MainControls(const MainControls&) = delete;
     MainControls& operator=(const MainControls&) = delete;
 
-    QLineEdit* Box(InputBox box) const;
+    InputTextBox* Box(InputBox box) const;
 
     /// The calendar options of a date box.
     /// box  FirstDate or SecondDate
     OptionGroup* Calendars(InputBox box) const;
 
     SpinArrows* Spinner(InputBox box) const;
+
+    /// The button that writes today into a date box.
+    CaptionButton* Today(InputBox box) const;
+
+    /// The button that empties a box.
+    CaptionButton* Clear(InputBox box) const;
 
     // Frames first: they own the options inside them.
     QFrame* Frame3;  // calendars of the first date
@@ -50,9 +56,9 @@ struct MainControls {
     QLabel* lblDateDifference;
     QLabel* lblOr;
     QLabel* lblSecondDate;
-    QLineEdit* txbFirstDate;
-    QLineEdit* txbDateDiff;
-    QLineEdit* txbSecondDate;
+    InputTextBox* txbFirstDate;
+    InputTextBox* txbDateDiff;
+    InputTextBox* txbSecondDate;
     SpinArrows* VScroll0;
     SpinArrows* VScroll1;
 
@@ -68,8 +74,8 @@ struct MainControls {
     OptionGroup* firstCalendars;
     OptionGroup* secondCalendars;
     OptionGroup* units;
-    QCheckBox* chkIncludeFirstDate;
-    QCheckBox* chkIncludeWeekends;
+    HandCheckBox* chkIncludeFirstDate;
+    HandCheckBox* chkIncludeWeekends;
     CaptionButton* cmdCompute;
 
     QLabel* lblDateFormat;
@@ -78,15 +84,15 @@ struct MainControls {
     OptionGroup* dateFormats;
     OptionGroup* dateSeparators;
     OptionGroup* thousandsSeparators;
-    QCheckBox* chkHyphen;
+    HandCheckBox* chkHyphen;
     ClickableLabel* lblHyphen;
 
-    OutputTextBox* txbOutput;
+    CrLfTextBox* txbOutput;
     CaptionButton* cmdClearOutputWindow;
     CaptionButton* cmdCopyToClipboard;
     CaptionButton* cmdEnlarge;
-    QCheckBox* chkVerbose;
-    QCheckBox* chkSaveOutput;
+    HandCheckBox* chkVerbose;
+    HandCheckBox* chkSaveOutput;
 
     CaptionButton* cmdDisplayMonth;
     CaptionButton* cmdHelp;
@@ -94,6 +100,7 @@ struct MainControls {
     CaptionButton* cmdQuit;
     ClickableLabel* lblOnlineDocumentation;
     ClickableLabel* lblVantorelSystems;
+    QLabel* lblReading;
 
     QTimer* Clock;
 };

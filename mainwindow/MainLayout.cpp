@@ -2,8 +2,14 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QStyleOptionButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <initializer_list>
+
+#include "mainwindow/AlikeColumns.h"
+#include "windows/AccessibleRole.h"
+#include "windows/ScrollingPage.h"
 
 namespace calvoro {
 namespace {
@@ -16,6 +22,31 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
     for (QWidget* widget : widgets) row->addWidget(widget);
     return row;
 }
+
+// The first half of a caption that goes on in the label behind it: lets the label come as near as a blank
+// between two words, into the room that the check box leaves behind its own words.
+class FirstHalf : public QWidgetItem {
+public:
+    explicit FirstHalf(QCheckBox* box) : QWidgetItem(box), box_(*box) {}
+
+    QSize sizeHint() const override { return QWidgetItem::sizeHint() - QSize(Overlap(), 0); }
+    QSize minimumSize() const override { return QWidgetItem::minimumSize() - QSize(Overlap(), 0); }
+    void setGeometry(const QRect& place) override {
+        QWidgetItem::setGeometry(place.adjusted(0, 0, Overlap(), 0));
+    }
+
+private:
+    int Overlap() const {
+        QStyleOptionButton look;
+        look.initFrom(&box_);
+        const int words = box_.fontMetrics().size(Qt::TextShowMnemonic, box_.text()).width();
+        const int left = box_.style()->subElementRect(QStyle::SE_CheckBoxContents, &look, &box_).left();
+        const int room = box_.sizeHint().width() - left - words;
+        return std::max(0, room - box_.fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+    }
+
+    const QCheckBox& box_;
+};
 
 void FillColumn(QFrame* frame, const OptionGroup& options) {
     auto* column = new QVBoxLayout(frame);
@@ -38,10 +69,18 @@ void FillEqualColumns(QFrame* frame, const OptionGroup& options) {
     for (int i = 0; i < row->count(); ++i) row->setStretch(i, 1);
 }
 
-QFrame* Line(QWidget* window) {
-    auto* line = new QFrame(window);
+QFrame* Line(QWidget* page) {
+    auto* line = new QFrame(page);
     line->setFrameStyle(QFrame::HLine | QFrame::Plain);
     line->setForegroundRole(QPalette::Mid);
+    SetAccessibleRole(*line, QAccessible::Separator);
+    return line;
+}
+
+// A line whose text comes and goes without moving anything else.
+QLabel* Quiet(QLabel* line) {
+    line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    line->setMinimumHeight(line->fontMetrics().lineSpacing());
     return line;
 }
 
@@ -71,8 +110,8 @@ QLayout* DifferenceColumn(const MainControls& c) {
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(c.chkIncludeFirstDate);
     column->addWidget(c.chkIncludeWeekends);
-    column->addStretch();
     column->addWidget(c.cmdCompute);
+    column->addStretch();
     return column;
 }
 
@@ -95,7 +134,8 @@ QLayout* NumberFormatColumn(const MainControls& c) {
     QHBoxLayout* thousands = Row({c.lblThousandsSeparator, c.Frame5});
     thousands->setSpacing(kOptionSpacing);
     thousands->addStretch();
-    QHBoxLayout* hyphen = Row({c.chkHyphen, c.lblHyphen});
+    QHBoxLayout* hyphen = Row({c.lblHyphen});
+    hyphen->insertItem(0, new FirstHalf(c.chkHyphen));
     hyphen->setSpacing(0);  // one sentence in two controls
     hyphen->addStretch();
 
@@ -106,17 +146,16 @@ QLayout* NumberFormatColumn(const MainControls& c) {
 }
 
 // The three inputs side by side, the difference between the dates, and below them how dates are written.
-QLayout* InputGrid(QWidget* window, const MainControls& c) {
+QLayout* InputGrid(QWidget* page, const MainControls& c) {
     enum Column { First, Gap, Difference, Or, Second, ColumnCount };
     enum GridRow { Labels, Boxes, Buttons, Kinds, Options, Rule, Formats };
     FillColumn(c.Frame3, *c.firstCalendars);
     FillColumn(c.Frame4, *c.secondCalendars);
     FillRow(c.Frame6, *c.units)->addStretch();
 
-    auto* grid = new QGridLayout;
+    auto* grid = new AlikeColumns({First, Difference, Second});
     grid->setColumnMinimumWidth(Gap, kColumnGap);
     grid->setColumnMinimumWidth(Or, kColumnGap);
-    for (const Column column : {First, Difference, Second}) grid->setColumnStretch(column, 1);
 
     grid->addWidget(c.lblFirstDate, Labels, First);
     grid->addWidget(c.lblDateDifference, Labels, Difference);
@@ -140,7 +179,7 @@ QLayout* InputGrid(QWidget* window, const MainControls& c) {
     grid->addLayout(DifferenceColumn(c), Options, Difference);
     grid->addWidget(c.Frame4, Options, Second);
 
-    grid->addWidget(Line(window), Rule, First, 1, ColumnCount);
+    grid->addWidget(Line(page), Rule, First, 1, ColumnCount);
     grid->addLayout(DateFormatGrid(c), Formats, First, 1, Second);
     grid->addLayout(NumberFormatColumn(c), Formats, Second);
     return grid;
@@ -207,13 +246,15 @@ void SetTabOrder(const MainControls& c) {
 }  // namespace
 
 void ArrangeControls(QWidget* window, const MainControls& controls) {
-    auto* page = new QVBoxLayout(window);
-    page->addLayout(TodayRow(controls));
-    page->addWidget(Line(window));
-    page->addLayout(InputGrid(window, controls));
-    page->addWidget(controls.txbOutput, 1);
-    page->addLayout(OutputButtons(controls));
-    page->addLayout(WindowButtons(controls));
+    QWidget* page = &(new ScrollingPage(*window))->Page();
+    auto* rows = new QVBoxLayout(page);
+    rows->addLayout(TodayRow(controls));
+    rows->addWidget(Line(page));
+    rows->addLayout(InputGrid(page, controls));
+    rows->addWidget(controls.txbOutput, 1);
+    rows->addLayout(OutputButtons(controls));
+    rows->addLayout(WindowButtons(controls));
+    rows->addWidget(Quiet(controls.lblReading));
     SetTabOrder(controls);
 }
 

@@ -1,24 +1,36 @@
 #pragma once
 
-// Option buttons of which one is chosen. Tells what the user chose, and nothing else: neither a choice
-// made by the program nor a click on the option that is chosen already.
+// Option buttons of which one is chosen. Tells every choice that the program did not make itself, however
+// it came about: mouse, keyboard, assistive tool. A click on the option that is chosen already is none.
 
 #include <QButtonGroup>
+#include <QRadioButton>
 #include <QStringList>
 
-class QRadioButton;
+#include "mainwindow/HandButton.h"
 
 namespace calvoro {
+
+class OptionButton : public HandButton<QRadioButton> {
+    Q_OBJECT
+
+public:
+    using HandButton<QRadioButton>::HandButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
 
 class OptionGroup : public QButtonGroup {
     Q_OBJECT
 
 public:
-    /// Makes a button for each name, unlabelled, in the frame that will own them and this group.
+    /// Makes a button for each name, unlabelled, in the frame that will own them and this group. The focus
+    /// that is given to the frame goes to the chosen option.
     OptionGroup(QWidget* frame, const QStringList& names);
 
     /// Index of the chosen option, kNoOption at first.
-    int Chosen() const { return chosen_; }
+    int Chosen() const { return checkedId(); }
 
     /// Chooses an option, or none with kNoOption, without telling anybody.
     void Choose(int index);
@@ -26,10 +38,14 @@ public:
     QAbstractButton& Option(int index) const { return *button(index); }
 
 Q_SIGNALS:
-    void ChosenByUser(int index);
+    /// byHand  false for the arrow keys and for assistive tools: the focus is then on the chosen option when
+    ///         everybody has been told, and should not be moved by them
+    void ChosenByUser(int index, bool byHand);
 
 private:
-    int chosen_;
+    void OnToggled(int index, bool chosen);
+
+    bool choosing_ = false;  // by the program
 };
 
 }  // namespace calvoro

@@ -1,14 +1,13 @@
 #include "mainwindow/SecondaryWindows.h"
 
-#include <QFontMetrics>
 #include <QWidget>
 #include <algorithm>
 #include <string>
 
-#include "mainwindow/QtText.h"
 #include "mainwindow/frmClearOneTextBox.h"
-#include "platform/Twips.h"
 #include "windows/Placement.h"
+#include "windows/QtText.h"
+#include "windows/Twips.h"
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
@@ -30,20 +29,20 @@ constexpr int kEnlargedTop = 380;
 constexpr int kEnlargedInset = 100;
 constexpr double kEnlargedScreenShare = 0.9;
 
+// By its characters.
 std::string_view LongestLine(std::string_view text) {
     std::string_view longest;
+    std::size_t mostCharacters = 0;
     while (!text.empty()) {
         const std::string_view line = text.substr(0, text.find("\r\n"));
-        if (line.size() > longest.size()) longest = line;
+        const std::size_t characters = LengthInTextBox(line);
+        if (characters > mostCharacters) {
+            mostCharacters = characters;
+            longest = line;
+        }
         text.remove_prefix(std::min(text.size(), line.size() + 2));
     }
     return longest;
-}
-
-// Twips.
-std::int16_t CharacterWidth(const frmLargeDisplay& display) {
-    const auto* box = display.findChild<QPlainTextEdit*>(QStringLiteral("txbOutput"));
-    return static_cast<std::int16_t>(PixelsToTwips(box->fontMetrics().horizontalAdvance(QLatin1Char('0'))));
 }
 
 }  // namespace
@@ -68,30 +67,22 @@ void SecondaryWindows::ShowEnlarged(std::string_view output) {
     const QRect main = mainWindow_.frameGeometry();
     const QPoint corner = main.topLeft() + QPoint(TwipsToPixels(kEnlargedLeft), TwipsToPixels(kEnlargedTop));
     const QPoint inset(TwipsToPixels(kEnlargedInset), TwipsToPixels(kEnlargedInset));
-    const QRect place(corner, main.bottomRight() - inset);
     // The frame that the main window has is the frame that this window will have.
-    large_->resize(place.size() - (main.size() - mainWindow_.size()));
-    MoveKeptOnScreen(*large_, place.topLeft());
+    large_->Place(QRect(corner, main.bottomRight() - inset), FrameSize(mainWindow_));
 
-    large_->setWindowTitle(ToQt(state_.texts.Shown(TextId::OutputWindow)));
+    large_->SetLanguageDependentText();
     large_->Clear();
     large_->Output(output, 0, false);
+    const std::string_view line = LongestLine(output);
+    large_->WidenDisplayIfNeeded(line, large_->CharacterWidth(line), kEnlargedScreenShare);
     large_->show();
     large_->raise();
     large_->activateWindow();
-    large_->WidenDisplayIfNeeded(LongestLine(output), CharacterWidth(*large_), kEnlargedScreenShare);
     large_->ShowEnd();
 }
 
 void SecondaryWindows::ShowHelp() {
-    if (!help_) {
-        const HelpAddresses addresses = {.manualEnglish = addresses_.manualEnglish,
-                                         .manualGerman = addresses_.manualGerman,
-                                         .calendarsArticle = addresses_.calendarsArticle,
-                                         .isoWeekArticle = addresses_.isoWeekArticle,
-                                         .leapWeekPage = addresses_.leapWeekPage};
-        help_ = std::make_unique<frmHelp>(state_.texts, addresses, mainWindow_);
-    }
+    if (!help_) help_ = std::make_unique<frmHelp>(state_.texts, addresses_, mainWindow_);
     help_->ShowHelp();
 }
 
@@ -126,6 +117,8 @@ void SecondaryWindows::CollectMonthOptions(Settings& settings) const {
 
 void SecondaryWindows::SetLanguageDependentText() {
     if (month_) month_->SetLanguageDependentText();
+    if (help_) help_->SetLanguageDependentText();
+    if (large_) large_->SetLanguageDependentText();
 }
 
 }  // namespace calvoro

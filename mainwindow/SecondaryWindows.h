@@ -11,9 +11,9 @@
 #include "calendar/CalendarNumber.h"
 #include "compute/ComputeWindow.h"
 #include "mainwindow/MainState.h"
-#include "mainwindow/Settings.h"
-#include "mainwindow/WebAddresses.h"
+#include "mainwindow/settings/Settings.h"
 #include "platform/Platform.h"
+#include "windows/WebAddresses.h"
 
 class QWidget;
 
@@ -54,7 +54,7 @@ public:
     void ApplyMonthOptions(const Settings& settings);
     void CollectMonthOptions(Settings& settings) const;
 
-    /// Captions of the windows that do not set theirs themselves.
+    /// The named texts of every window that there is, in the language of the interface.
     void SetLanguageDependentText();
 
 private:

@@ -4,10 +4,13 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "windows/AccessibleRole.h"
+
 namespace calvoro {
 
 SpinArrows::SpinArrows(QWidget* parent)
     : QWidget(parent), up_(MakeArrow(Qt::UpArrow, 1)), down_(MakeArrow(Qt::DownArrow, -1)) {
+    SetAccessibleRole(*this, QAccessible::Grouping);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

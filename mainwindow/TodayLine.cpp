@@ -2,7 +2,7 @@
 
 #include "calendar/Today.h"
 #include "datetext/TodayText.h"
-#include "mainwindow/QtText.h"
+#include "windows/QtText.h"
 
 namespace calvoro {
 namespace {
@@ -16,16 +16,16 @@ constexpr std::array<TodayRow, 2> kRows = {{
     {&MainControls::lblTodaysDate, TextId::TodayIs, 0},
     {&MainControls::lblWeekFromToday, TextId::AWeekFromTodayIs, 7},
 }};
-static_assert(kRows.size() == std::tuple_size_v<decltype(MainState::labelCalendars)>);
 
 }  // namespace
 
-TodayLine::TodayLine(const MainControls& controls, const WindowOptions& options, MainState& state,
+TodayLine::TodayLine(const MainControls& controls, const WindowOptions& options, const MainState& state,
                      const Clock& clock)
     : controls_(controls), options_(options), state_(state), clock_(clock) {
+    static_assert(kRows.size() == std::tuple_size_v<decltype(calendars_)>);
     for (std::size_t i = 0; i < kRows.size(); ++i) {
         ClickableLabel* label = controls_.*kRows[i].label;
-        CalendarNumber& calendar = state_.labelCalendars[i];
+        CalendarNumber& calendar = calendars_[i];
         QObject::connect(label, &ClickableLabel::Pressed, label,
                          [this, &calendar] { Cycle(calendar, NextTodayCalendar); });
         QObject::connect(label, &ClickableLabel::PressedBackward, label,
@@ -42,7 +42,7 @@ void TodayLine::Refresh() {
                                   .weekdays = ShownWeekdayNames(language),
                                   .german = language == LanguageGerman};
         (controls_.*kRows[i].label)
-            ->setText(ToQt(TodayLabel(today + kRows[i].daysFromToday, state_.labelCalendars[i],
+            ->setText(ToQt(TodayLabel(today + kRows[i].daysFromToday, calendars_[i],
                                       options_.ReadTextOptions(), words)));
     }
 }

@@ -1,10 +1,20 @@
 #include "mainwindow/WindowOptions.h"
 
+#include <QSignalBlocker>
 #include <utility>
 
 #include "mainwindow/ControlTables.h"
 
 namespace calvoro {
+namespace {
+
+// Without running the box's handler.
+void Check(QCheckBox& box, bool checked) {
+    const QSignalBlocker blocker(box);
+    box.setChecked(checked);
+}
+
+}  // namespace
 
 WindowOptions::WindowOptions(const MainControls& controls, std::string digitGrouping)
     : controls_(controls), digitGrouping_(std::move(digitGrouping)) {}
@@ -44,11 +54,11 @@ void WindowOptions::Apply(const Settings& settings) {
     controls_.firstCalendars->Choose(RowOf(kCalendarOptions, settings.firstCalendar));
     controls_.secondCalendars->Choose(RowOf(kCalendarOptions, settings.secondCalendar));
     controls_.units->Choose(RowOf(kUnitOptions, settings.differenceUnit));
-    controls_.chkIncludeFirstDate->setChecked(settings.includeFirstDate);
-    controls_.chkIncludeWeekends->setChecked(settings.includeWeekends);
-    controls_.chkVerbose->setChecked(settings.verbose);
-    controls_.chkHyphen->setChecked(settings.hyphen);
-    controls_.chkSaveOutput->setChecked(settings.saveOutput);
+    Check(*controls_.chkIncludeFirstDate, settings.includeFirstDate);
+    Check(*controls_.chkIncludeWeekends, settings.includeWeekends);
+    Check(*controls_.chkVerbose, settings.verbose);
+    Check(*controls_.chkHyphen, settings.hyphen);
+    Check(*controls_.chkSaveOutput, settings.saveOutput);
     FollowUnit();
 }
 

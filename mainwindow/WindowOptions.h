@@ -8,7 +8,7 @@
 #include "compute/ComputeOptions.h"
 #include "compute/ComputeWindow.h"
 #include "mainwindow/MainControls.h"
-#include "mainwindow/Settings.h"
+#include "mainwindow/settings/Settings.h"
 
 namespace calvoro {
 

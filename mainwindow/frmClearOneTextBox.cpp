@@ -1,13 +1,18 @@
 #include "mainwindow/frmClearOneTextBox.h"
 
+#include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "mainwindow/QtText.h"
-#include "platform/Twips.h"
+#include "compute/ComputeMessages.h"
+#include "mainwindow/FramedFocusButton.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
+#include "windows/QtText.h"
+#include "windows/ScrollingPage.h"
+#include "windows/Twips.h"
 
 namespace calvoro {
 namespace {
@@ -28,18 +33,23 @@ frmClearOneTextBox::frmClearOneTextBox(QWidget& mainWindow, const Texts& texts)
     : QDialog(&mainWindow),
       mainWindow_(mainWindow),
       texts_(texts),
+      lblMessage(new QLabel(this)),
       optClearFirstDate(MakeOption(this, "optClearFirstDate")),
       optClearDateDiff(MakeOption(this, "optClearDateDiff")),
       optClearSecondDate(MakeOption(this, "optClearSecondDate")),
       optCancel(MakeOption(this, "optCancel")),
-      cmdContinue(new QPushButton(this)) {
+      cmdContinue(new FramedFocusButton(this)) {
     setObjectName(QStringLiteral("frmClearOneTextBox"));
     setModal(true);
     cmdContinue->setObjectName(QStringLiteral("cmdContinue"));
     cmdContinue->setDefault(true);
     optClearDateDiff->setChecked(true);
 
-    auto* column = new QVBoxLayout(this);
+    lblMessage->setObjectName(QStringLiteral("lblMessage"));
+    lblMessage->setTextFormat(Qt::PlainText);
+
+    auto* column = new QVBoxLayout(&(new ScrollingPage(*this))->Page());
+    column->addWidget(lblMessage);
     for (QRadioButton* option : {optClearFirstDate, optClearDateDiff, optClearSecondDate, optCancel}) {
         column->addWidget(option);
     }
@@ -68,9 +78,17 @@ void frmClearOneTextBox::reject() {
     QDialog::reject();
 }
 
+void frmClearOneTextBox::keyPressEvent(QKeyEvent* event) {
+    // The Enter that asked for the computation, when it is still held down, is no answer.
+    if (!event->isAutoRepeat()) QDialog::keyPressEvent(event);
+}
+
 void frmClearOneTextBox::SetCaptions() {
     const auto shown = [this](TextId id) { return ToQt(texts_.Shown(id)); };
     setWindowTitle(shown(TextId::Clear));
+    QString message =
+        ToQt(ComputeMessageText(ComputeMessage::DifferenceMustBeEmpty, texts_.InterfaceLanguage)).trimmed();
+    lblMessage->setText(message.remove(QLatin1Char('\r')));
     SetCaption(*optClearFirstDate, shown(TextId::FirstDate));
     SetCaption(*optClearDateDiff, shown(TextId::DateDifference));
     SetCaption(*optClearSecondDate, shown(TextId::SecondDate));
@@ -80,9 +98,11 @@ void frmClearOneTextBox::SetCaptions() {
 }
 
 void frmClearOneTextBox::Place() {
-    adjustSize();
-    MoveKeptOnScreen(*this, mainWindow_.frameGeometry().topLeft() +
-                                QPoint(TwipsToPixels(kLeftOffset), TwipsToPixels(kTopOffset)));
+    resize(sizeHint());
+    MoveKeptOnScreen(
+        *this,
+        mainWindow_.frameGeometry().topLeft() + QPoint(TwipsToPixels(kLeftOffset), TwipsToPixels(kTopOffset)),
+        FrameSize(mainWindow_));
 }
 
 }  // namespace calvoro

@@ -8,6 +8,7 @@
 #include "compute/ComputeWindow.h"
 #include "text/Texts.h"
 
+class QLabel;
 class QPushButton;
 class QRadioButton;
 
@@ -28,12 +29,16 @@ public:
     /// Closing the dialog from its frame, or with Esc, cancels.
     void reject() override;
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void SetCaptions();
     void Place();
 
     QWidget& mainWindow_;
     const Texts& texts_;
+    QLabel* lblMessage;
     QRadioButton* optClearFirstDate;
     QRadioButton* optClearDateDiff;
     QRadioButton* optClearSecondDate;

@@ -3,26 +3,29 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScreen>
+#include <QLibraryInfo>
 #include <QShortcut>
 #include <utility>
 
 #include "calendar/EuroDate.h"
 #include "compute/ComputeClick.h"
-#include "mainwindow/BoxDate.h"
+#include "datetext/AnyNotation.h"
 #include "mainwindow/Captions.h"
 #include "mainwindow/ControlTables.h"
 #include "mainwindow/MainLayout.h"
-#include "mainwindow/QtText.h"
-#include "mainwindow/SettingsFile.h"
+#include "mainwindow/settings/SettingsFile.h"
+#include "text/NumberedTexts.h"
+#include "windows/AccessibleRole.h"
+#include "windows/Mnemonics.h"
+#include "windows/Placement.h"
+#include "windows/QtText.h"
 #include "windows/WebLink.h"
 
 namespace calvoro {
 namespace {
 
 const QString kTitle = QStringLiteral("Calvoro");
-const QString kVersionInTitle = QStringLiteral(" 13.0");
-constexpr std::int16_t kSettingsFolderText = 310;
+const QString kVersionInTitle = QStringLiteral(" " CALVORO_VERSION_IN_TITLE);
 
 }  // namespace
 
@@ -45,9 +48,12 @@ frmMain::frmMain(const Platform& platform, WebAddresses addresses)
           }),
       calendarChange_(controls_, options_, state_, platform_, boxes_, todayLine_),
       spinners_(controls_, boxes_, computeWindow_),
-      inputKeys_(new InputKeys(this, controls_, options_)),
-      announcer_(new ResultAnnouncer(this)) {
+      inputKeys_(this, controls_, options_),
+      reading_(this, controls_, options_, state_),
+      toolkitWords_(QLibraryInfo::path(QLibraryInfo::TranslationsPath)),
+      announcer_(new Announcer(this)) {
     setObjectName(QStringLiteral("frmMain"));
+    SetAccessibleRole(*this, QAccessible::Window);
     setWindowTitle(kTitle);
     ArrangeControls(this, controls_);
     options_.Apply(Settings());
@@ -59,43 +65,49 @@ frmMain::frmMain(const Platform& platform, WebAddresses addresses)
 
 void frmMain::ConnectInputs() {
     connect(controls_.cmdCompute, &QPushButton::clicked, this, &frmMain::OnCompute);
-    connect(inputKeys_, &InputKeys::EnterPressed, this, &frmMain::OnCompute);
-    connect(inputKeys_, &InputKeys::StepPressed, this, [this](InputBox box, int value) {
-        spinners_.VScroll(box == InputBox::FirstDate ? 0 : 1, value);
-    });
-    connect(controls_.VScroll0, &SpinArrows::Stepped, this,
-            [this](int value) { spinners_.VScroll(0, value); });
-    connect(controls_.VScroll1, &SpinArrows::Stepped, this,
-            [this](int value) { spinners_.VScroll(1, value); });
-    connect(controls_.cmdToday0, &QPushButton::clicked, this, [this] { cmdToday_Click(0); });
-    connect(controls_.cmdToday1, &QPushButton::clicked, this, [this] { cmdToday_Click(1); });
-    connect(controls_.cmdClearFirstDate, &QPushButton::clicked, this,
-            [this] { boxes_.Clear(InputBox::FirstDate); });
-    connect(controls_.cmdClearDateDiff, &QPushButton::clicked, this,
-            [this] { boxes_.Clear(InputBox::Difference); });
-    connect(controls_.cmdClearSecondDate, &QPushButton::clicked, this,
-            [this] { boxes_.Clear(InputBox::SecondDate); });
+    connect(&inputKeys_, &InputKeys::EnterPressed, this, &frmMain::OnCompute);
+    connect(&inputKeys_, &InputKeys::StepPressed, this,
+            [this](InputBox box, int value) { spinners_.VScroll(box, value); });
+    for (const InputBox box : {InputBox::FirstDate, InputBox::SecondDate}) {
+        connect(controls_.Spinner(box), &SpinArrows::Stepped, this,
+                [this, box](int value) { spinners_.VScroll(box, value); });
+        connect(controls_.Today(box), &QPushButton::clicked, this,
+                [this, box] { boxes_.FillWithToday(box); });
+    }
+    for (const InputBox box : {InputBox::FirstDate, InputBox::Difference, InputBox::SecondDate}) {
+        connect(controls_.Clear(box), &QPushButton::clicked, this, [this, box] { boxes_.Clear(box); });
+    }
     connect(controls_.cmdMoveSecondDateToFirst, &QPushButton::clicked, this,
             [this] { boxes_.MoveSecondDateToFirst(); });
 }
 
 void frmMain::ConnectOptions() {
-    connect(controls_.firstCalendars, &OptionGroup::ChosenByUser, this,
-            [this](int index) { calendarChange_.ChangeFirstDateCalendar(ValueAt(kCalendarOptions, index)); });
-    connect(controls_.secondCalendars, &OptionGroup::ChosenByUser, this, [this](int index) {
+    OnChoice(controls_.firstCalendars, [this](int index) {
+        calendarChange_.ChangeFirstDateCalendar(ValueAt(kCalendarOptions, index));
+    });
+    OnChoice(controls_.secondCalendars, [this](int index) {
         calendarChange_.ChangeSecondDateCalendar(ValueAt(kCalendarOptions, index));
     });
-    connect(controls_.dateFormats, &OptionGroup::ChosenByUser, this, &frmMain::OnDateFormat);
-    connect(controls_.dateSeparators, &OptionGroup::ChosenByUser, this, &frmMain::OnDateFormat);
-    connect(controls_.thousandsSeparators, &OptionGroup::ChosenByUser, this, &frmMain::SetTheFocus);
-    connect(controls_.units, &OptionGroup::ChosenByUser, this, &frmMain::OnUnit);
-    connect(controls_.languages, &OptionGroup::ChosenByUser, this, &frmMain::OnLanguage);
-    for (QCheckBox* box : {controls_.chkIncludeFirstDate, controls_.chkIncludeWeekends, controls_.chkVerbose,
-                           controls_.chkSaveOutput}) {
-        connect(box, &QCheckBox::clicked, this, &frmMain::SetTheFocus);
+    OnChoice(controls_.dateFormats, [this](int) { OnDateFormat(); });
+    OnChoice(controls_.dateSeparators, [this](int) { OnDateFormat(); });
+    OnChoice(controls_.thousandsSeparators, [this](int) { OnThousandsSeparator(); });
+    OnChoice(controls_.units, [this](int) { OnUnit(); });
+    OnChoice(controls_.languages, [this](int index) { OnLanguage(index); });
+    for (HandCheckBox* box : {controls_.chkIncludeFirstDate, controls_.chkIncludeWeekends,
+                              controls_.chkVerbose, controls_.chkSaveOutput}) {
+        connect(box, &QCheckBox::toggled, this, [this, box] { OnCheckBox(*box); });
     }
-    connect(controls_.chkHyphen, &QCheckBox::clicked, this, &frmMain::OnHyphen);
+    connect(controls_.chkHyphen, &QCheckBox::toggled, this, &frmMain::OnHyphen);
     connect(controls_.lblHyphen, &ClickableLabel::Pressed, controls_.chkHyphen, &QCheckBox::click);
+}
+
+// The step to the next control belongs to a choice made by hand.
+void frmMain::OnChoice(const OptionGroup* options, std::function<void(int)> action) {
+    connect(options, &OptionGroup::ChosenByUser, this,
+            [this, action = std::move(action)](int index, bool byHand) {
+                const auto hold = boxes_.HoldFocus(!byHand);
+                action(index);
+            });
 }
 
 void frmMain::ConnectOutput() {
@@ -114,10 +126,12 @@ void frmMain::ConnectWindows() {
             &frmMain::OnOnlineDocumentation);
     connect(controls_.lblVantorelSystems, &ClickableLabel::Pressed, this,
             [this] { OpenWebPage(platform_.web, platform_.boxes, addresses_.homePage); });
-    connect(new QShortcut(QKeySequence(Qt::Key_F1), this), &QShortcut::activated, controls_.cmdHelp,
-            &QPushButton::click);
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this), &QShortcut::activated, this,
-            &frmMain::QuitAndSave);
+    const auto onKey = [this](const QKeySequence& key, const QPushButton* button) {
+        connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+    };
+    onKey(Qt::Key_F1, controls_.cmdHelp);
+    onKey(Qt::CTRL | Qt::Key_M, controls_.cmdDisplayMonth);
+    onKey(Qt::CTRL | Qt::Key_Q, controls_.cmdQuit);
 }
 
 void frmMain::Start() {
@@ -140,8 +154,7 @@ void frmMain::Start() {
 QSize frmMain::FirstSize() const {
     constexpr int kCharactersInResultLine = 140;
     const int width = fontMetrics().averageCharWidth() * kCharactersInResultLine;
-    const QSize screenSize = screen()->availableSize();
-    return sizeHint().expandedTo({width, 0}).boundedTo(screenSize);
+    return sizeHint().expandedTo({width, 0}).boundedTo(RoomOnScreen(*this));
 }
 
 void frmMain::QuitAndSave() {
@@ -155,6 +168,8 @@ void frmMain::SetLanguageDependentText() {
     SetCaptions(controls_, state_.texts);
     SetExampleCaptions(controls_, state_.texts, options_.ReadTextOptions());
     windows_.SetLanguageDependentText();
+    toolkitWords_.Follow(state_.texts.InterfaceLanguage);
+    reading_.Refresh();
 }
 
 void frmMain::SetTheFocus() {
@@ -181,7 +196,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::keyPressEvent(QKeyEvent* event) {
     // Enter on a control that makes nothing of it, such as an option.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        OnCompute();
+        if (!event->isAutoRepeat()) OnCompute();
     } else {
         QWidget::keyPressEvent(event);
     }
@@ -206,14 +221,35 @@ void frmMain::OnDateFormat() {
     todayLine_.Refresh();
 }
 
+// Deliberate: the boxes keep their texts, which are read under every thousands separator.
+void frmMain::OnThousandsSeparator() {
+    todayLine_.Refresh();
+    SetTheFocus();
+}
+
 void frmMain::OnUnit() {
     options_.FollowUnit();
     SetTheFocus();
 }
 
+// The value is read when it is needed.
+void frmMain::OnCheckBox(HandCheckBox& box) {
+    if (!box.UnderHand()) {
+        box.setFocus();
+        return;
+    }
+    SetTheFocus();
+    // The focus leaves the box before a reader has told its new state.
+    const bool german = state_.texts.InterfaceLanguage == LanguageGerman;
+    const char* const state = box.isChecked() ? (german ? "ein" : "on") : (german ? "aus" : "off");
+    if (!box.hasFocus()) announcer_->Announce(FromQt(Caption(box)) + ": " + state);
+}
+
 void frmMain::OnHyphen() {
+    if (!controls_.chkHyphen->UnderHand()) controls_.chkHyphen->setFocus();
     SetOrdinalCaptions(controls_, state_.texts, controls_.chkHyphen->isChecked());
     boxes_.RewriteHyphens();
+    todayLine_.Refresh();
 }
 
 void frmMain::OnLanguage(int index) {
@@ -224,16 +260,17 @@ void frmMain::OnLanguage(int index) {
 }
 
 void frmMain::OnDisplayMonth() {
-    const CalendarNumber calendar = GetCal(1);
+    const CalendarNumber calendar = options_.GetCal(InputBox::FirstDate);
     const bool hasMonth =
         calendar == CalendarNumber::CE || calendar == CalendarNumber::JC || calendar == CalendarNumber::JDN;
-    const BoxDate first = ReadBoxDate(calendar, boxes_.Text(InputBox::FirstDate), options_.ReadTextOptions());
-    if (!hasMonth || first.status != ParseStatus::Valid) {
+    DateRecord shown;
+    const ParseStatus status =
+        ReadDate(calendar, boxes_.Text(InputBox::FirstDate), options_.ReadTextOptions(), shown);
+    if (!hasMonth || status != ParseStatus::Valid) {
         const LocalDate today = platform_.clock.Today();
         windows_.ShowMonth(today.year, today.month, CalendarNumber::CE);
         return;
     }
-    DateRecord shown = first.record;
     if (calendar == CalendarNumber::JDN) jdn_to_euro_date(shown);
     windows_.ShowMonth(shown.year, shown.month,
                        calendar == CalendarNumber::JC ? CalendarNumber::JC : CalendarNumber::CE);
@@ -241,8 +278,9 @@ void frmMain::OnDisplayMonth() {
 
 void frmMain::OnReset() {
     const Texts& texts = state_.texts;
-    const std::string question =
-        texts.Numbered(18) + "\r\n" + texts.Numbered(19) + "\r\n" + texts.Numbered(20);
+    const std::string question = texts.Numbered(kResetDeletesText) + "\r\n" +
+                                 texts.Numbered(kResetRestoresText) + "\r\n" +
+                                 texts.Numbered(kResetQuestionText);
     if (platform_.boxes.AskYesNo(question, texts.Shown(TextId::Reset))) {
         DeleteSettingsFile(settingsFilePath_);
         ApplyDefaultSettings();
@@ -257,8 +295,9 @@ void frmMain::OnOnlineDocumentation() {
 }
 
 void frmMain::ReadSettings() {
-    if (const std::optional<Settings> settings = ReadSettingsFile(settingsFilePath_)) {
+    if (std::optional<Settings> settings = ReadSettingsFile(settingsFilePath_)) {
         ApplySettings(*settings);
+        startOutput_ = std::move(settings->output);
     } else {
         ApplyDefaultSettings();
     }
@@ -267,7 +306,7 @@ void frmMain::ReadSettings() {
 void frmMain::WriteSettings() {
     Settings settings;
     settings.interfaceLanguage = state_.texts.InterfaceLanguage;
-    settings.todayCalendar = state_.labelCalendars[0];
+    settings.todayCalendar = todayLine_.TodayCalendar();
     options_.Collect(settings);
     windows_.CollectMonthOptions(settings);
     settings.firstDate = boxes_.Text(InputBox::FirstDate);
@@ -275,7 +314,7 @@ void frmMain::WriteSettings() {
     settings.secondDate = boxes_.Text(InputBox::SecondDate);
     settings.output = output_.Text();
     // A failure to write is not reported: the program ends all the same.
-    WriteSettingsFile(settingsFilePath_, settings);
+    WriteSettingsFile(settingsFilePath_, settings, startOutput_);
 }
 
 void frmMain::ApplyDefaultSettings() {
@@ -286,9 +325,8 @@ void frmMain::ApplyDefaultSettings() {
 // last, and they were written under these very options.
 void frmMain::ApplySettings(const Settings& settings) {
     state_.texts.InterfaceLanguage = settings.interfaceLanguage;
-    state_.labelCalendars.fill(settings.todayCalendar);
-    state_.firstBoxCalendar = settings.firstCalendar;
-    state_.secondBoxCalendar = settings.secondCalendar;
+    todayLine_.SetTodayCalendar(settings.todayCalendar);
+    calendarChange_.Remember(settings.firstCalendar, settings.secondCalendar);
     options_.Apply(settings);
     windows_.ApplyMonthOptions(settings);
     SetLanguageDependentText();

@@ -4,6 +4,7 @@
 // wires its controls to the small classes that do the jobs; the computation is behind cmdCompute_Click.
 
 #include <QWidget>
+#include <functional>
 #include <string>
 
 #include "mainwindow/CalendarChange.h"
@@ -14,12 +15,14 @@
 #include "mainwindow/MainControls.h"
 #include "mainwindow/MainState.h"
 #include "mainwindow/OutputBox.h"
-#include "mainwindow/ResultAnnouncer.h"
+#include "mainwindow/ReadingLine.h"
 #include "mainwindow/SecondaryWindows.h"
 #include "mainwindow/TodayLine.h"
-#include "mainwindow/WebAddresses.h"
 #include "mainwindow/WindowOptions.h"
 #include "platform/Platform.h"
+#include "windows/Announcer.h"
+#include "windows/ToolkitWords.h"
+#include "windows/WebAddresses.h"
 
 namespace calvoro {
 
@@ -63,13 +66,16 @@ private:
     QSize FirstSize() const;
     void ConnectInputs();
     void ConnectOptions();
+    void OnChoice(const OptionGroup* options, std::function<void(int)> action);
     void ConnectOutput();
     void ConnectWindows();
 
     void OnCompute();
     bool AskWhichBoxToClear();
     void OnDateFormat();
+    void OnThousandsSeparator();
     void OnUnit();
+    void OnCheckBox(HandCheckBox& box);
     void OnHyphen();
     void OnLanguage(int index);
     void OnDisplayMonth();
@@ -84,6 +90,7 @@ private:
     Platform platform_;
     WebAddresses addresses_;
     std::string settingsFilePath_;
+    std::string startOutput_;  // what the settings file brought, to tell what other programs add to it
     bool saved_ = false;
 
     MainControls controls_;
@@ -96,8 +103,11 @@ private:
     MainComputeWindow computeWindow_;
     CalendarChange calendarChange_;
     DateSpinners spinners_;
-    InputKeys* inputKeys_;
-    ResultAnnouncer* announcer_;
+    // Members, not children: children are deleted when the controls are no longer known.
+    InputKeys inputKeys_;
+    ReadingLine reading_;
+    ToolkitWords toolkitWords_;
+    Announcer* announcer_;
 };
 
 }  // namespace calvoro

@@ -5,24 +5,24 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "windows/QtText.h"
+#include "windows/DocumentText.h"
 
 namespace calvoro {
 namespace {
 
-std::string WithCrLf(QString raw) {
-    raw.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
-    return raw.toStdString();
-}
-
 // The document's position of a CR LF offset: an offset inside a line break or a pair of code units goes
 // to its beginning, one beyond the end to the end.
-int DocumentPosition(const QTextDocument& document, int offset) {
-    // Every line break before a block adds one to the block's offset. Searched from the end, where the
-    // offsets asked for lie.
+int DocumentPosition(QTextDocument& document, int offset) {
+    // Every line break before a block adds one to the block's offset, but a soft one takes its own away.
+    // Searched from the end, where the offsets asked for lie.
+    int softBreaks = SoftBreakCount(document);
     QTextBlock block = document.lastBlock();
-    while (block.position() + block.blockNumber() > offset) block = block.previous();
-    const int inBlock = std::min(offset - block.position() - block.blockNumber(), block.length() - 1);
+    const auto blockOffset = [&] { return block.position() + block.blockNumber() - 2 * softBreaks; };
+    while (blockOffset() > offset) {
+        if (IsSoftBreak(block)) --softBreaks;
+        block = block.previous();
+    }
+    const int inBlock = std::min(offset - blockOffset(), block.length() - 1);
     const int position = block.position() + inBlock;
     const bool halvesPair = inBlock > 0 && document.characterAt(position - 1).isHighSurrogate() &&
                             document.characterAt(position).isLowSurrogate();
@@ -32,21 +32,30 @@ int DocumentPosition(const QTextDocument& document, int offset) {
 }  // namespace
 
 int CrLfLength(const QPlainTextEdit& box) {
-    const QTextDocument& document = *box.document();
+    QTextDocument& document = *box.document();
     // The document counts one character more than it shows.
-    return document.characterCount() - 1 + document.blockCount() - 1;
+    return document.characterCount() - 1 + document.blockCount() - 1 - 2 * SoftBreakCount(document);
 }
 
 std::string CrLfText(const QPlainTextEdit& box) {
-    return WithCrLf(box.document()->toRawText());
+    return TextOfDocument(*box.document(), box.document()->toRawText(), 0);
 }
 
 std::string SelectedCrLfText(const QPlainTextEdit& box) {
-    return WithCrLf(box.textCursor().selectedText());
+    const QTextCursor caret = box.textCursor();
+    return TextOfDocument(*box.document(), caret.selectedText(), caret.selectionStart());
 }
 
 void SetCrLfText(QPlainTextEdit& box, std::string_view text) {
-    box.setPlainText(ToQt(text));
+    QTextDocument& document = *box.document();
+    const bool couldUndo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    // Replaced, not emptied and filled: who follows the text hears of one change.
+    QTextCursor cursor(&document);
+    cursor.select(QTextCursor::Document);
+    InsertInDocument(cursor, text);
+    document.setUndoRedoEnabled(couldUndo);
+    SetCaret(box, 0);
 }
 
 void AppendCrLfText(QPlainTextEdit& box, std::string_view text) {
@@ -56,7 +65,7 @@ void AppendCrLfText(QPlainTextEdit& box, std::string_view text) {
 
     QTextCursor end(box.document());
     end.movePosition(QTextCursor::End);
-    end.insertText(ToQt(text));
+    InsertInDocument(end, text);
 
     // A caret that stood at the end has moved on with the text.
     if (box.textCursor().position() != positionBefore || box.textCursor().anchor() != anchorBefore) {

@@ -2,7 +2,8 @@
 
 // A multi-line text box seen as CR LF text. The toolkit counts a line break as one character; everywhere
 // else in the program it is two. Characters are UTF-16 code units, as the text box itself counts them.
-// None of these costs the whole text but the two that return or replace it.
+// Every text comes back as it was set, byte for byte; how the box manages to hold it is DocumentText's
+// affair. None of these costs the whole text but the two that return or replace it.
 
 #include <QPlainTextEdit>
 #include <string>

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QScrollBar>
 #include <QTextDocument>
@@ -17,12 +18,25 @@ constexpr int kLeastLines = 3;  // on a low screen the rest is scrolled
 
 }  // namespace
 
-void UseFixedPitchFont(QWidget& widget) {
+QFont FixedPitchFont(const QStringList& families) {
     QFont font;
-    font.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
+    font.setFamilies(families);
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
-    widget.setFont(font);
+    if (QFontInfo(font).fixedPitch()) return font;
+
+    const QStringList all = QFontDatabase::families(QFontDatabase::Latin);
+    const auto isUsable = [](const QString& family) {
+        return QFontDatabase::isFixedPitch(family) && QFontDatabase::isSmoothlyScalable(family) &&
+               !QFontDatabase::isPrivateFamily(family);
+    };
+    const auto found = std::find_if(all.begin(), all.end(), isUsable);
+    if (found != all.end()) font.setFamilies({*found});
+    return font;
+}
+
+void UseFixedPitchFont(QWidget& widget) {
+    widget.setFont(FixedPitchFont(QFontDatabase::systemFont(QFontDatabase::FixedFont).families()));
 }
 
 FixedPitchBox::FixedPitchBox(int columns, int lines, QWidget* parent)

@@ -9,14 +9,14 @@ namespace {
 
 struct HelpParagraph {
     std::string_view text;
-    std::string HelpAddresses::*address = nullptr;  // stands after the text
+    std::string WebAddresses::*address = nullptr;  // stands after the text
     std::string_view afterAddress = {};
 };
 
 // Deliberate: slips included ("'yyy-yddd'", two blanks after "New Year's Day", the word order of the last
-// German sentence); the texts are kept as they always were.
+// German sentence); the wording is not this program's to change.
 constexpr std::array<HelpParagraph, 12> kEnglish = {{
-    {"The complete user manual for this software is online at: ", &HelpAddresses::manualEnglish},
+    {"The complete user manual for this software is online at: ", &WebAddresses::manualEnglish},
     {"This program converts Common Era dates, Julian Calendar dates, ISO 8601 Week dates, Vantorel Leap "
      "Week dates, ordinal dates ('yyyy-ddd') and Julian day numbers.  It can also be used to add or "
      "subtract a number of days or months to or from a date and to find the difference in days between "
@@ -25,16 +25,16 @@ constexpr std::array<HelpParagraph, 12> kEnglish = {{
      "1, 2 CE ... rather than AD/BC (1 AD = 1 CE, 1 BC = 0 CE, 2 BC = -1 CE, etc.)"},
     {"A Julian Calendar date is a date in the Julian Calendar, with years numbered in the same way.  "
      "See ",
-     &HelpAddresses::calendarsArticle},
+     &WebAddresses::calendarsArticle},
     {"The ordinal date 'yyy-yddd' date specifies day 'ddd' of Common Era year 'yyyy', where New Year's "
      "Day  is day 001 and the last day of the year is 365 or (in leap years) 366.  Dates in this format "
      "can range from 0001-001 to 9999-365."},
     {"An ISO 8601 Week Calendar date is a date of the form (year)-W(week)-(day).  For an explanation of "
      "this calendar see: ",
-     &HelpAddresses::isoWeekArticle},
+     &WebAddresses::isoWeekArticle},
     {"A Vantorel Leap Week Calendar date is of the form (year)-(week)-(day) LPW or (year)-(month)-(day) "
      "LPM.  For an explanation of this calendar see: ",
-     &HelpAddresses::leapWeekPage},
+     &WebAddresses::leapWeekPage},
     {"The (chronological) Julian day number of a day is the number of days since the start of "
      "-4712-01-01 (Julian Calendar)."},
     {"To convert a date from one calendar to another first specify the input and output calendars to be "
@@ -50,7 +50,7 @@ constexpr std::array<HelpParagraph, 12> kEnglish = {{
 }};
 
 constexpr std::array<HelpParagraph, 11> kGerman = {{
-    {"Das Benutzerhandbuch fuer diese Software ist an ", &HelpAddresses::manualGerman, " verfuegbar."},
+    {"Das Benutzerhandbuch fuer diese Software ist an ", &WebAddresses::manualGerman, " verfuegbar."},
     {"Dieses Programm konvertiert verschiedene Arten von Daten und julianische Tageszahlen.  Es erlaubt "
      "die Addition und die Subtraktion einer Anzahl von Tagen oder Monate zu einem vorgegebenen Datum."},
     {"Ein Datum im (engl.) \"Common Era\" Kalender (CE) gleicht einem Datum im gregorianischen "
@@ -60,13 +60,13 @@ constexpr std::array<HelpParagraph, 11> kGerman = {{
      "v.Chr. usw."},
     {"Ein julianisches Kalenderdatum ist ein Datum im julianischen Kalender (JC); die Jahre werden in "
      "gleicher Weise gezaehlt.  Sehen Sie ",
-     &HelpAddresses::calendarsArticle},
+     &WebAddresses::calendarsArticle},
     {"Ein ISO-8601-Woche Kalenderdatum ist ein Datum der Form (Jahr)-W(Woche)-(Tag).  Fuer eine "
      "Erklaerung dieses Kalenders sehen Sie: ",
-     &HelpAddresses::isoWeekArticle},
+     &WebAddresses::isoWeekArticle},
     {"Ein Vantorel Leap Week Kalenderdatum ist von der Form (Jahr)-(Woche)-(Tag) LPW oder "
      "(Jahr)-(Monat)-(Tag) LPM.  ",
-     &HelpAddresses::leapWeekPage},
+     &WebAddresses::leapWeekPage},
     {"Die julianischen Zaehlung verwendet den Tag als Einheit. Die (chronologische) julianische "
      "Tageszahl (JDN) gibt die Anzahl der Tage an, die seit dem Anfang vom 1.1.-4712 JC vergangen sind."},
     {"Um die Daten aus einem Kalender in einen anderen umzuwandeln, ist zuerst zu spezifizieren, auf "
@@ -87,7 +87,7 @@ constexpr std::array<HelpParagraph, 11> kGerman = {{
 }};
 
 template <std::size_t Count>
-std::string Joined(const std::array<HelpParagraph, Count>& paragraphs, const HelpAddresses& addresses) {
+std::string Joined(const std::array<HelpParagraph, Count>& paragraphs, const WebAddresses& addresses) {
     std::string joined;
     for (const HelpParagraph& paragraph : paragraphs) {
         joined += paragraph.text;
@@ -100,7 +100,7 @@ std::string Joined(const std::array<HelpParagraph, Count>& paragraphs, const Hel
 
 }  // namespace
 
-HelpTexts FillHelpText(const HelpAddresses& addresses) {
+HelpTexts FillHelpText(const WebAddresses& addresses) {
     HelpTexts texts;
     texts[LanguageEnglish] = Joined(kEnglish, addresses);
     texts[LanguageGerman] = Joined(kGerman, addresses);

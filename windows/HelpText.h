@@ -1,25 +1,18 @@
 #pragma once
 
-// The help texts in English and German, with the slips that they always had.
+// The help texts in English and German, slips included.
 
 #include <array>
 #include <string>
 
-namespace calvoro {
+#include "windows/WebAddresses.h"
 
-/// The web pages that the help texts name.
-struct HelpAddresses {
-    std::string manualEnglish;     // online user manual
-    std::string manualGerman;      // online user manual
-    std::string calendarsArticle;  // the maker's article on calendars
-    std::string isoWeekArticle;    // an encyclopedia's article on the ISO week date
-    std::string leapWeekPage;      // the maker's page on the leap week calendar
-};
+namespace calvoro {
 
 /// By language number; Spanish is empty. UTF-8, lines end with CR LF.
 using HelpTexts = std::array<std::string, 3>;
 
 /// Builds the texts: paragraphs, each followed by two line breaks.
-HelpTexts FillHelpText(const HelpAddresses& addresses);
+HelpTexts FillHelpText(const WebAddresses& addresses);
 
 }  // namespace calvoro

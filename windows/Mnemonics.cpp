@@ -29,7 +29,8 @@ QVector<qsizetype> Candidates(const QString& caption) {
 // makes an earlier one move to another of its keys.
 class KeyChoice {
 public:
-    explicit KeyChoice(const QStringList& captions) : captions_(captions), places_(captions.size(), -1) {
+    KeyChoice(const QStringList& captions, qsizetype firstServed)
+        : captions_(captions), firstServed_(firstServed), places_(captions.size(), -1) {
         for (qsizetype caption = 0; caption < captions.size(); ++caption) {
             QSet<QChar> tried;
             Place(caption, tried);
@@ -51,6 +52,7 @@ private:
             const QChar key = Key(caption, place);
             if (tried.contains(key)) return false;
             tried.insert(key);
+            if (owners_.value(key) < firstServed_) return false;
             if (!Place(owners_.value(key), tried)) return false;
             Take(caption, place);
             return true;
@@ -65,14 +67,15 @@ private:
     }
 
     const QStringList& captions_;
+    qsizetype firstServed_;
     QVector<qsizetype> places_;  // by caption; -1 for none
     QHash<QChar, qsizetype> owners_;
 };
 
 }  // namespace
 
-QStringList WithMnemonics(const QStringList& captions) {
-    const KeyChoice choice(captions);
+QStringList WithMnemonics(const QStringList& captions, qsizetype firstServed) {
+    const KeyChoice choice(captions, firstServed);
     QStringList marked = captions;
     for (qsizetype caption = 0; caption < marked.size(); ++caption) {
         const qsizetype place = choice.PlaceOf(caption);
@@ -81,10 +84,10 @@ QStringList WithMnemonics(const QStringList& captions) {
     return marked;
 }
 
-void SetMnemonics(const QList<QWidget*>& controls) {
+void SetMnemonics(const QList<QWidget*>& controls, qsizetype firstServed) {
     QStringList captions;
     for (const QWidget* control : controls) captions.push_back(Caption(*control));
-    const QStringList marked = WithMnemonics(captions);
+    const QStringList marked = WithMnemonics(captions, firstServed);
     for (qsizetype i = 0; i < controls.size(); ++i) SetCaption(*controls[i], marked[i]);
 }
 

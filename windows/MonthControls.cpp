@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QList>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -24,9 +23,9 @@ constexpr int kLines = 7;          // heading and six weeks
 
 MonthControls::MonthControls(QWidget& window)
     : lblMonth(Named(new QLabel(&window), "lblMonth")),
-      cboMonths(Named(new QComboBox(&window), "cboMonths")),
+      cboMonths(Named(new MonthList(&window), "cboMonths")),
       lblYear(Named(new QLabel(&window), "lblYear")),
-      txbYear(Named(new QLineEdit(&window), "txbYear")),
+      txbYear(Named(new LineBox(&window), "txbYear")),
       cmdDisplay(Named(new CaptionButton(&window), "cmdDisplay")),
       txbMonth(Named(new FixedPitchBox(kMonthColumns, kLines, &window), "txbMonth")),
       fraCalendar(Named(new QGroupBox(&window), "fraCalendar")),
@@ -42,7 +41,8 @@ MonthControls::MonthControls(QWidget& window)
       chkWithYear(Named(new QCheckBox(&window), "chkWithYear")),
       cmdClose(Named(new CaptionButton(&window), "cmdClose")),
       txbISODates(Named(new FixedPitchBox(kIsoColumns, kLines, &window), "txbISODates")),
-      window_(window) {
+      window_(window),
+      page_(*new ScrollingPage(window)) {
     lblMonth->setBuddy(cboMonths);
     lblYear->setBuddy(txbYear);
     Choose(*optCommonEra);
@@ -68,14 +68,12 @@ void MonthControls::SetCaptions(const Texts& texts) {
     SetCaption(*cmdDisplayNextMonth[0], shown(TextId::DisplayNextMonth));
     SetCaption(*cmdDisplayNextMonth[1], shown(TextId::DisplayPreviousMonth));
     SetCaption(*cmdCopyToClipboard, shown(TextId::CopyToClipboard));
-    SetCaption(*cmdShowHideISO, shown(TextId::DisplayISOWeekDates));
     SetCaption(*chkWithYear, shown(TextId::WithFinalDigitOfYear));
     SetCaption(*cmdClose, shown(TextId::Close));
     UpdateMnemonics();
 
     cboMonths->setAccessibleName(shown(TextId::Month));
     txbYear->setAccessibleName(shown(TextId::Year));
-    txbMonth->setAccessibleName(shown(TextId::Calendar));
     txbISODates->setAccessibleName(shown(TextId::ISOWeekDate));
 }
 
@@ -95,21 +93,24 @@ void MonthControls::SetIsoCaption(const QString& caption) {
 }
 
 QSize MonthControls::FirstSize() const {
-    const QMargins margins = window_.layout()->contentsMargins();
+    const QMargins margins = page_.Page().layout()->contentsMargins();
     const int isoWidth = margins.left() + txbISODates->sizeHint().width() + margins.right();
     const QSize size = window_.sizeHint().expandedTo(QSize(isoWidth, 0));
-    return size.boundedTo(window_.screen()->availableSize());
+    return size.boundedTo(RoomOnScreen(window_));
 }
 
 void MonthControls::SetIsoBoxShown(bool shown) {
     if (txbISODates->isHidden() != shown) return;
     const int boxHeight = shown ? txbISODates->sizeHint().height() : -txbISODates->height();
-    const int spacing = window_.layout()->spacing();
+    const int spacing = page_.Page().layout()->spacing();
     const int wanted = window_.height() + boxHeight + (shown ? spacing : -spacing);
 
     txbISODates->setVisible(shown);
-    window_.layout()->activate();  // the window's least height follows at once
-    window_.resize(window_.width(), std::min(wanted, window_.screen()->availableSize().height()));
+    // The window's least height follows at once.
+    page_.Page().layout()->activate();
+    page_.updateGeometry();
+    window_.layout()->activate();
+    window_.resize(window_.width(), std::min(wanted, RoomOnScreen(window_).height()));
     if (shown && window_.isVisible()) MoveKeptOnScreen(window_, window_.pos());
 }
 
@@ -149,7 +150,7 @@ void MonthControls::Arrange() {
     iso->addWidget(chkWithYear);
     iso->addStretch(1);
 
-    auto* rows = new QVBoxLayout(&window_);
+    auto* rows = new QVBoxLayout(&page_.Page());
     rows->addLayout(heading);
     rows->addLayout(options);
     rows->addLayout(month);

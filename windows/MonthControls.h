@@ -3,16 +3,17 @@
 // The controls of the month window, their arrangement and their captions. What they do is the window's.
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <array>
 
 #include "text/Texts.h"
 #include "windows/FixedPitchBox.h"
+#include "windows/LineBox.h"
+#include "windows/MonthList.h"
+#include "windows/ScrollingPage.h"
 
 namespace calvoro {
 
@@ -20,7 +21,8 @@ struct MonthControls {
     /// Builds the controls into a window, with the factory's options: Common Era, Sunday first.
     explicit MonthControls(QWidget& window);
 
-    /// Sets captions and accessible names in the language of the interface.
+    /// Sets captions and accessible names in the language of the interface, but for the button that shows and
+    /// hides the ISO week dates.
     void SetCaptions(const Texts& texts);
 
     /// Fills the list of months in the language of the interface, keeping the month chosen. No handler
@@ -36,9 +38,9 @@ struct MonthControls {
     void SetIsoBoxShown(bool shown);
 
     QLabel* lblMonth;
-    QComboBox* cboMonths;
+    MonthList* cboMonths;
     QLabel* lblYear;
-    QLineEdit* txbYear;
+    LineBox* txbYear;
     QPushButton* cmdDisplay;
     FixedPitchBox* txbMonth;
     QGroupBox* fraCalendar;
@@ -59,6 +61,7 @@ private:
     void UpdateMnemonics();
 
     QWidget& window_;
+    ScrollingPage& page_;
 };
 
 }  // namespace calvoro

@@ -3,16 +3,12 @@
 #include <charconv>
 #include <limits>
 
+#include "datetext/Blanks.h"
+
 namespace calvoro {
 
-std::string_view TrimmedBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 std::optional<std::int32_t> ReadYear(std::string_view text) {
-    std::string_view number = TrimmedBlanks(text);
+    std::string_view number = TrimBlanks(text);
     // The library's reader takes a minus but no plus.
     if (number.starts_with('+') && !number.starts_with("+-")) number.remove_prefix(1);
     std::int32_t year = 0;

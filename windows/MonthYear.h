@@ -9,9 +9,6 @@
 
 namespace calvoro {
 
-/// A text without the blanks at its ends.
-std::string_view TrimmedBlanks(std::string_view text);
-
 /// Reads a year: digits with or without a sign, blanks at the ends.
 /// returns  nothing when the text is anything else or does not fit 32 bits
 std::optional<std::int32_t> ReadYear(std::string_view text);

@@ -14,7 +14,9 @@ std::string_view FolderOf(std::string_view path) {
     return separator == std::string_view::npos ? std::string_view() : path.substr(0, separator + 1);
 }
 
-// UTF-16 code units of a UTF-8 text: one for every character, two for those of four bytes.
+}  // namespace
+
+// One for every character, two for those of four bytes.
 std::size_t LengthInTextBox(std::string_view text) {
     std::size_t length = 0;
     for (const char character : text) {
@@ -24,8 +26,6 @@ std::size_t LengthInTextBox(std::string_view text) {
     }
     return length;
 }
-
-}  // namespace
 
 OutputStep OutputBuffer::Output(int length, std::string_view text, std::int16_t lineBreaks) {
     // Deliberate: the length before the piece is tested, so the last piece accepted may pass the limit.

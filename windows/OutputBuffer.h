@@ -13,6 +13,9 @@
 
 namespace calvoro {
 
+/// Characters of a UTF-8 text, as the text box counts them.
+std::size_t LengthInTextBox(std::string_view text);
+
 /// What one call of Output does to the text.
 struct OutputStep {
     enum class Kind {

@@ -2,9 +2,16 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QStyle>
 #include <algorithm>
 
 namespace calvoro {
+
+namespace {
+
+constexpr int kLikelyBorder = 4;  // pixels on each side
+
+}  // namespace
 
 QPoint KeptOnScreen(QPoint wanted, QSize size, QRect screen) {
     const int right = std::max(screen.left(), screen.left() + screen.width() - size.width());
@@ -14,6 +21,17 @@ QPoint KeptOnScreen(QPoint wanted, QSize size, QRect screen) {
 
 QSize FrameSize(const QWidget& window) {
     return window.frameGeometry().size() - window.geometry().size();
+}
+
+QSize RoomOnScreen(const QWidget& window) {
+    QSize frame = FrameSize(window);
+    // The same before and after it is shown.
+    if (!window.windowFlags().testFlag(Qt::FramelessWindowHint)) {
+        const QStyle& style = *window.style();
+        const int border = std::max(kLikelyBorder, style.pixelMetric(QStyle::PM_MdiSubWindowFrameWidth));
+        frame = frame.expandedTo({2 * border, style.pixelMetric(QStyle::PM_TitleBarHeight) + 2 * border});
+    }
+    return window.screen()->availableSize() - frame;
 }
 
 void MoveKeptOnScreen(QWidget& window, QPoint wanted, QSize frame) {

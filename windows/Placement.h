@@ -15,6 +15,10 @@ QPoint KeptOnScreen(QPoint wanted, QSize size, QRect screen);
 /// What a window that is shown has around its contents: borders and title bar.
 QSize FrameSize(const QWidget& window);
 
+/// The largest size that a window's contents can have on its screen, with the frame that it is likely to
+/// get, or has.
+QSize RoomOnScreen(const QWidget& window);
+
 /// Moves a window there, kept on the screen that holds the wanted corner (else on the window's own).
 /// wanted  where the frame's top left corner should be
 /// frame   what it has, or will have when it is shown, around its contents

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "text/AsciiCase.h"
+
 namespace calvoro {
 namespace {
 
@@ -44,11 +46,12 @@ std::string FailureMessage(int code, std::string_view extension) {
 void OpenWebPage(WebOpener& web, MessageBoxes& boxes, std::string_view address) {
     std::string secure(address);
     ReplaceAll(secure, "http:", "https:");
-    // Deliberate: both "0" are handed on as texts; a shell that takes them always got them.
-    const int result = web.Open(secure, "0", "0", 1);
-    if (result >= kSmallestSuccess) return;
-    boxes.Show(FailureMessage(result, FileExtension(secure, true)), "Cannot launch web browser",
-               MessageIcon::Exclamation);
+    // Deliberate: parameters and working directory are the text "0".
+    const auto tell = [&boxes, extension = FileExtension(secure, true)](int code) {
+        boxes.Show(FailureMessage(code, extension), "Cannot launch web browser", MessageIcon::Exclamation);
+    };
+    const int result = web.Open(secure, "0", "0", 1, tell);
+    if (result < kSmallestSuccess) tell(result);
 }
 
 std::string FileExtension(std::string_view text, bool lower) {
@@ -58,9 +61,7 @@ std::string FileExtension(std::string_view text, bool lower) {
     if (dot == std::string_view::npos) return {};
     std::string extension(text.substr(dot + 1));
     if (lower) {
-        for (char& character : extension) {
-            if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
-        }
+        for (char& character : extension) character = LowerCase(character);
     }
     return extension;
 }

@@ -11,7 +11,8 @@
 namespace calvoro {
 
 /// Opens an address, with every "http:" in it replaced by "https:". A failed start is told in a message
-/// box; the program goes on.
+/// box, also when it shows only later; the program goes on.
+/// boxes  must outlive the program's event loop
 void OpenWebPage(WebOpener& web, MessageBoxes& boxes, std::string_view address);
 
 /// What follows the last "." in the part of a text behind its last "\"; empty when there is no ".".

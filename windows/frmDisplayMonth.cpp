@@ -1,17 +1,22 @@
 #include "windows/frmDisplayMonth.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <utility>
 
 #include "calendar/CheckedInt.h"
-#include "platform/Twips.h"
+#include "datetext/Blanks.h"
+#include "text/NumberedTexts.h"
+#include "windows/AccessibleRole.h"
 #include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/MonthYear.h"
 #include "windows/Placement.h"
 #include "windows/QtText.h"
+#include "windows/Twips.h"
 #include "windows/WindowActivation.h"
 
 namespace calvoro {
@@ -19,10 +24,6 @@ namespace {
 
 constexpr int kRightOfMainWindow = 4000;  // twips
 constexpr int kBelowMainWindow = 1710;    // twips
-
-constexpr std::int16_t kIsoHeadingText = 13;
-constexpr std::int16_t kDisplayIsoText = 14;
-constexpr std::int16_t kHideIsoText = 15;
 
 }  // namespace
 
@@ -33,14 +34,16 @@ frmDisplayMonth::frmDisplayMonth(const Platform& platform, Texts& texts, QWidget
       texts_(texts),
       mainWindow_(mainWindow),
       formReady_(std::move(formReady)),
-      ui_(*this) {
+      ui_(*this),
+      announcer_(new Announcer(this)) {
     setObjectName(QStringLiteral("frmDisplayMonth"));
     setAttribute(Qt::WA_QuitOnClose, false);
+    SetAccessibleRole(*this, QAccessible::Window);
     setWindowIcon(mainWindow.windowIcon());
 
     ui_.FillMonths(texts);
-    ui_.SetCaptions(texts);
     ui_.SetIsoCaption(ToQt(texts.Numbered(kDisplayIsoText)));
+    SetCaptions();
     ConnectControls();
     new WindowActivation(*this, [this] { OnActivated(); });
 }
@@ -69,6 +72,7 @@ void frmDisplayMonth::DisplayMonth() {
         return;
     }
     ui_.cmdClose->setFocus();
+    AnnounceHeading();
 }
 
 WeekStart frmDisplayMonth::GetWeekStart() const {
@@ -90,12 +94,23 @@ void frmDisplayMonth::SetCalendar(CalendarNumber calendar) {
 }
 
 void frmDisplayMonth::SetLanguageDependentText() {
-    ui_.SetCaptions(texts_);
+    SetCaptions();
+    ui_.FillMonths(texts_);
+    if (isVisible()) Draw();
 }
 
 void frmDisplayMonth::closeEvent(QCloseEvent* event) {
     OnClose();
     event->accept();
+}
+
+// Esc as a key, not as a shortcut of the window, which would reach into the open list of months.
+void frmDisplayMonth::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void frmDisplayMonth::ConnectControls() {
@@ -125,7 +140,7 @@ void frmDisplayMonth::ConnectControls() {
         UpdateIsoButton();
     });
     whenChosen(ui_.optMonday, [this] {
-        // Deliberate: drawn twice, as this option always did; the second drawing repeats the first.
+        // Deliberate: drawn twice; the second drawing repeats the first, with a bad year its message too.
         DisplayMonth();
         DisplayMonth();
         HideIsoWhen(ui_.optJulian->isChecked());
@@ -150,17 +165,27 @@ void frmDisplayMonth::ConnectControls() {
     onKey(Qt::Key_PageDown, [this] { OnDisplayNextMonth(0); });
     onKey(Qt::CTRL | Qt::Key_PageUp, [this] { StepYear(-1); });
     onKey(Qt::CTRL | Qt::Key_PageDown, [this] { StepYear(1); });
-    onKey(Qt::Key_Escape, [this] { close(); });
 }
 
 void frmDisplayMonth::OnActivated() {
-    setWindowTitle(ToQt(texts_.Shown(TextId::DisplayMonth)));
+    SetTitle();
     texts_.TextLanguage = texts_.InterfaceLanguage;
     ui_.FillMonths(texts_);
     // Deliberate: the column goes while its text and the button's caption stay as they are.
     ui_.SetIsoBoxShown(false);
     isoShown_ = false;
     UpdateIsoButton();
+}
+
+// The button for the ISO dates tells with a numbered text that they are shown.
+void frmDisplayMonth::SetCaptions() {
+    SetTitle();
+    ui_.SetCaptions(texts_);
+    if (!isoShown_) ui_.SetIsoCaption(ToQt(texts_.Shown(TextId::DisplayISOWeekDates)));
+}
+
+void frmDisplayMonth::SetTitle() {
+    setWindowTitle(ToQt(texts_.Shown(TextId::DisplayMonth)));
 }
 
 // Draws grid and, when it is shown, the ISO column.
@@ -178,8 +203,38 @@ bool frmDisplayMonth::Draw() {
     } catch (const ArithmeticOverflow&) {
         return false;
     }
+    ui_.txbMonth->setAccessibleName(ToQt(Heading()));
     if (isoShown_) ShowIsoDates();
     return true;
+}
+
+// "September 2024 (Common Era Calendar)"
+std::string frmDisplayMonth::Heading() const {
+    const TextId calendar = ui_.optJulian->isChecked() ? TextId::JulianCalendar : TextId::CommonEraCalendar;
+    std::string heading(ShownMonthName(texts_.InterfaceLanguage, ui_.cboMonths->currentIndex()));
+    heading.append(" ").append(TrimBlanks(ui_.txbYear->text().toStdString()));
+    return heading.append(" (").append(texts_.Shown(calendar)).append(")");
+}
+
+// Once for each month that comes up, however often it is drawn.
+void frmDisplayMonth::AnnounceHeading() {
+    const std::string heading = Heading();
+    if (heading == announced_) return;
+    announced_ = heading;
+    if (isActiveWindow()) {
+        announcer_->Announce(heading);
+    } else {
+        announceWhenActive_ = true;
+    }
+}
+
+// A reader tells first which window it is in.
+void frmDisplayMonth::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
+    if (std::exchange(announceWhenActive_, false)) {
+        QTimer::singleShot(0, this, [this] { announcer_->Announce(announced_); });
+    }
 }
 
 void frmDisplayMonth::ShowIsoDates() {
@@ -244,7 +299,7 @@ void frmDisplayMonth::ChooseMonth(int index) {
 }
 
 void frmDisplayMonth::TrimYear() {
-    ui_.txbYear->setText(ToQt(TrimmedBlanks(ui_.txbYear->text().toStdString())));
+    ui_.txbYear->setText(ToQt(TrimBlanks(ui_.txbYear->text().toStdString())));
 }
 
 void frmDisplayMonth::StepYear(int years) {
@@ -276,6 +331,7 @@ void frmDisplayMonth::OnCopyToClipboard() {
 }
 
 void frmDisplayMonth::OnClose() {
+    announced_.clear();
     HideIsoWhen(true);
     if (mainWindow_.isVisible()) mainWindow_.activateWindow();
 }

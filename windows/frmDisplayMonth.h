@@ -6,12 +6,14 @@
 #include <QWidget>
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "calendar/CalendarNumber.h"
 #include "datetext/MonthText.h"
 #include "platform/Platform.h"
 #include "text/Texts.h"
+#include "windows/Announcer.h"
 #include "windows/MonthControls.h"
 
 namespace calvoro {
@@ -43,17 +45,24 @@ public:
     CalendarNumber GetCalendar() const;
     void SetCalendar(CalendarNumber calendar);
 
-    /// Sets the captions in the language of the interface.
+    /// Sets every named text in the language of the interface. A month that is shown is drawn anew, without
+    /// a message and with the focus where it is.
     void SetLanguageDependentText();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void ConnectControls();
     void OnActivated();
+    void SetCaptions();
+    void SetTitle();
 
     bool Draw();
+    std::string Heading() const;
+    void AnnounceHeading();
     void ShowIsoDates();
     void UpdateIsoButton();
     void OnShowHideISO();
@@ -80,6 +89,9 @@ private:
     std::int32_t firstShownJdn_ = 0;  // of the grid last drawn
 
     MonthControls ui_;
+    Announcer* announcer_;
+    std::string announced_;  // the heading, while the window is open
+    bool announceWhenActive_ = false;
 };
 
 }  // namespace calvoro

@@ -4,13 +4,14 @@
 #include <QShortcut>
 #include <algorithm>
 
-#include "platform/Twips.h"
+#include "windows/AccessibleRole.h"
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
 #include "windows/QtText.h"
+#include "windows/Twips.h"
 #include "windows/WindowActivation.h"
 
 namespace calvoro {
@@ -32,7 +33,7 @@ constexpr int kButtonGap = 100;
 
 }  // namespace
 
-frmHelp::frmHelp(const Texts& texts, const HelpAddresses& addresses, QWidget& mainWindow)
+frmHelp::frmHelp(const Texts& texts, const WebAddresses& addresses, QWidget& mainWindow)
     : texts_(texts),
       mainWindow_(mainWindow),
       helpText_(FillHelpText(addresses)),
@@ -40,6 +41,7 @@ frmHelp::frmHelp(const Texts& texts, const HelpAddresses& addresses, QWidget& ma
       cmdClose(Named(new CaptionButton(this), "cmdClose")) {
     setObjectName(QStringLiteral("frmHelp"));
     setAttribute(Qt::WA_QuitOnClose, false);
+    SetAccessibleRole(*this, QAccessible::Window);
 
     MakeReadOnly(*txbMsg);
     connect(cmdClose, &QPushButton::clicked, this, &QWidget::close);
@@ -47,7 +49,7 @@ frmHelp::frmHelp(const Texts& texts, const HelpAddresses& addresses, QWidget& ma
     new WindowActivation(*this, [this] { OnActivated(); });
 
     setMinimumSize(TwipsToPixels(kLeastWidth), TwipsToPixels(kLeastHeight));
-    resize(TwipsToPixels(kFirstWidth), TwipsToPixels(kFirstHeight));
+    resize(QSize(TwipsToPixels(kFirstWidth), TwipsToPixels(kFirstHeight)).boundedTo(RoomOnScreen(*this)));
 }
 
 void frmHelp::ShowHelp() {
@@ -74,12 +76,17 @@ void frmHelp::closeEvent(QCloseEvent* event) {
     event->accept();
 }
 
-void frmHelp::OnActivated() {
+void frmHelp::SetLanguageDependentText() {
     setWindowTitle(QStringLiteral("Calvoro ") + ToQt(texts_.Shown(TextId::Help)));
     const std::string& text = helpText_[static_cast<std::size_t>(texts_.InterfaceLanguage)];
     ShowText(text.empty() ? helpText_[LanguageEnglish] : text);
     txbMsg->setAccessibleName(ToQt(texts_.Shown(TextId::Help)));
     SetCaption(*cmdClose, WithMnemonics({ToQt(texts_.Shown(TextId::Close))}).first());
+    PlaceCloseButton();
+}
+
+void frmHelp::OnActivated() {
+    SetLanguageDependentText();
     if (!isMinimized() && !isMaximized()) ArrangeControls(kHeightAroundActivated);
 }
 
@@ -97,7 +104,13 @@ void frmHelp::ArrangeControls(int heightAround) {
     const int room = height() - top - cmdClose->height() - 2 * gap;
     txbMsg->setGeometry(TwipsToPixels(kTextLeft), top, width() - TwipsToPixels(kWidthAround),
                         std::min(wanted, room));
-    cmdClose->move((width() - cmdClose->width()) / 2, top + txbMsg->height() + gap);
+    PlaceCloseButton();
+}
+
+void frmHelp::PlaceCloseButton() {
+    cmdClose->resize(cmdClose->sizeHint());
+    const int top = txbMsg->y() + txbMsg->height() + TwipsToPixels(kButtonGap);
+    cmdClose->move((width() - cmdClose->width()) / 2, top);
 }
 
 }  // namespace calvoro

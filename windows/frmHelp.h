@@ -15,11 +15,14 @@ class frmHelp : public QWidget {
     Q_OBJECT
 
 public:
-    frmHelp(const Texts& texts, const HelpAddresses& addresses, QWidget& mainWindow);
+    frmHelp(const Texts& texts, const WebAddresses& addresses, QWidget& mainWindow);
 
     /// Shows the window, near the main window's lower right corner the first time, or brings it back when
     /// it is minimised or covered.
     void ShowHelp();
+
+    /// Sets title, caption and text in the language of the interface.
+    void SetLanguageDependentText();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -29,6 +32,7 @@ private:
     void OnActivated();
     void ShowText(const std::string& text);
     void ArrangeControls(int heightAround);
+    void PlaceCloseButton();
 
     const Texts& texts_;
     QWidget& mainWindow_;

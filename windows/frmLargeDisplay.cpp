@@ -2,39 +2,50 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QVBoxLayout>
 #include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
 
-#include "platform/Twips.h"
+#include "windows/AccessibleRole.h"
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"
 #include "windows/CrLfText.h"
+#include "windows/CrLfTextBox.h"
 #include "windows/FixedPitchBox.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
 #include "windows/QtText.h"
+#include "windows/Twips.h"
 #include "windows/WindowActivation.h"
 
 namespace calvoro {
 namespace {
 
-// Captions as state.
-const QString kCopy = QStringLiteral("Copy to clipboard");
-const QString kCopySelected = QStringLiteral("Copy selected text to clipboard");
-const QString kPause = QStringLiteral("Pause");
-const QString kContinue = QStringLiteral("Continue");
+// Deliberate: the captions are the buttons' state and stay English. In the order of CopyButton.
+const std::array<QString, 4> kCopyCaptions = {QStringLiteral("Copy to clipboard"),
+                                              QStringLiteral("Copy selected text to clipboard"),
+                                              QStringLiteral("Pause"), QStringLiteral("Continue")};
 const QString kClose = QStringLiteral("Close");
 const QString kStop = QStringLiteral("Stop");
+
+const QString& CaptionFor(CopyButton state) {
+    return kCopyCaptions[static_cast<std::size_t>(state)];
+}
 
 // Twips.
 constexpr int kLeastWidth = 6000;
 constexpr int kLeastHeight = 3000;
 constexpr int kFirstHeight = 6000;
-constexpr int kTextLeft = 150;
-constexpr int kTextTop = 150;
-constexpr int kCopyLeft = 330;
+constexpr int kTextMargin = 150;    // left, right, above and below the text
+constexpr int kButtonMargin = 330;  // left and right of the buttons
+constexpr int kBelowButtons = 700;  // title bar included
 
 bool IsEnter(const QKeyEvent& key) {
     return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -45,11 +56,12 @@ bool IsEnter(const QKeyEvent& key) {
 frmLargeDisplay::frmLargeDisplay(const Platform& platform, const Texts& texts)
     : clipboard_(platform.clipboard),
       texts_(texts),
-      txbOutput(Named(new QPlainTextEdit(this), "txbOutput")),
+      txbOutput(Named(new CrLfTextBox(this), "txbOutput")),
       cmdCopyToClipboard(Named(new CaptionButton(this), "cmdCopyToClipboard")),
       cmdClose(Named(new CaptionButton(this), "cmdClose")) {
     setObjectName(QStringLiteral("frmLargeDisplay"));
     setAttribute(Qt::WA_QuitOnClose, false);
+    SetAccessibleRole(*this, QAccessible::Window);
 
     MakeReadOnly(*txbOutput);
     txbOutput->installEventFilter(this);
@@ -63,7 +75,8 @@ frmLargeDisplay::frmLargeDisplay(const Platform& platform, const Texts& texts)
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, cmdClose, &QPushButton::click);
     new WindowActivation(*this, [this] { Form_Activate(); });
 
-    SetCaptions(kCopy, kClose);
+    ArrangeControls();
+    SetCaptions({});
     resize(TwipsToPixels(kLeastWidth), TwipsToPixels(kFirstHeight));
 }
 
@@ -101,22 +114,43 @@ void frmLargeDisplay::ShowEnd() {
     txbOutput->setFocus();
 }
 
+void frmLargeDisplay::Place(QRect outer, QSize frame) {
+    frame_ = frame;
+    resize(outer.size() - frame);
+    MoveKeptOnScreen(*this, outer.topLeft(), frame);
+}
+
+std::int16_t frmLargeDisplay::CharacterWidth(std::string_view line) const {
+    constexpr qsizetype kMore = 5000;  // characters than any screen shows in a line
+    const auto length = static_cast<int>(LengthInTextBox(line));
+    if (length == 0) return 0;
+    const QString shown = ToQt(line).left(kMore);
+    const int text = txbOutput->fontMetrics().horizontalAdvance(shown);
+    const int around = frame_.width() + 2 * TwipsToPixels(kTextMargin) + 2 * txbOutput->frameWidth() +
+                       static_cast<int>(std::ceil(2 * txbOutput->document()->documentMargin())) +
+                       txbOutput->verticalScrollBar()->sizeHint().width() + txbOutput->cursorWidth();
+    const int twips = (PixelsToTwips(text + around) + length - 1) / length;
+    return static_cast<std::int16_t>(std::min<int>(twips, std::numeric_limits<std::int16_t>::max()));
+}
+
 void frmLargeDisplay::WidenDisplayIfNeeded(std::string_view text, std::int16_t characterWidth,
                                            double screenShare) {
     const QRect place = screen()->geometry();
     const int widest = static_cast<int>(screenShare * place.width());
-    if (buffer_.Overflowed() || width() >= widest) return;
+    const int outerWidth = width() + frame_.width();
+    if (buffer_.Overflowed() || outerWidth >= widest) return;
 
-    const qsizetype length = ToQt(text).size();
-    const qsizetype needed = length * characterWidth / kTwipsPerPixel;
-    if (width() >= needed) return;
-    resize(static_cast<int>(std::min<qsizetype>(widest, needed)), height());
-    move(place.left() + (place.width() - width()) / 2, y());
+    const auto length = static_cast<std::int64_t>(LengthInTextBox(text));
+    const std::int64_t needed = length * characterWidth / kTwipsPerPixel;
+    if (outerWidth >= needed) return;
+    const int newWidth = static_cast<int>(std::min<std::int64_t>(widest, needed));
+    resize(newWidth - frame_.width(), height());
+    move(place.left() + (place.width() - newWidth) / 2, y());
 }
 
 void frmLargeDisplay::SetCopyToClipboardButton() {
     UpdateCopyButton();
-    if (WithoutMnemonic(cmdCopyToClipboard->text()) == kCopy && isVisible()) cmdClose->setFocus();
+    if (State().copy == CopyButton::Copy && isVisible()) cmdClose->setFocus();
 }
 
 void frmLargeDisplay::DisplayArray(const std::vector<std::string>& texts, std::size_t first, std::size_t last,
@@ -126,19 +160,25 @@ void frmLargeDisplay::DisplayArray(const std::vector<std::string>& texts, std::s
 
 void frmLargeDisplay::Form_Activate() {
     setWindowState(windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized));
-    txbOutput->setAccessibleName(ToQt(texts_.Shown(TextId::OutputWindow)));
+    SetLanguageDependentText();
     SetCopyToClipboardButton();
     SetCopyButtonWidth(4000, 2000);
     activated_ = true;
 }
 
+void frmLargeDisplay::SetLanguageDependentText() {
+    const QString name = ToQt(texts_.Shown(TextId::OutputWindow));
+    setWindowTitle(name);
+    txbOutput->setAccessibleName(name);
+}
+
 void frmLargeDisplay::OfferPauseAndStop() {
-    SetCaptions(kPause, kStop);
+    SetCaptions({CopyButton::Pause, true});
     SetCopyToClipboardButton();
 }
 
 bool frmLargeDisplay::Stopped() const {
-    return WithoutMnemonic(cmdClose->text()) != kStop;
+    return !State().stop;
 }
 
 bool frmLargeDisplay::eventFilter(QObject* watched, QEvent* event) {
@@ -150,9 +190,15 @@ bool frmLargeDisplay::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void frmLargeDisplay::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    if (!isMinimized()) ArrangeControls();
+bool frmLargeDisplay::event(QEvent* event) {
+    const bool taken = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Polish) KeepLeastSize();
+    return taken;
+}
+
+void frmLargeDisplay::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (isVisible()) frame_ = FrameSize(*this);
 }
 
 void frmLargeDisplay::hideEvent(QHideEvent* event) {
@@ -167,40 +213,49 @@ void frmLargeDisplay::closeEvent(QCloseEvent* event) {
 }
 
 void frmLargeDisplay::OnCopyToClipboard() {
-    const QString caption = WithoutMnemonic(cmdCopyToClipboard->text());
-    if (caption == kPause) {
-        SetCaptions(kContinue, WithoutMnemonic(cmdClose->text()));
-        Pause();
-        if (!isVisible()) return;
-    } else if (caption == kContinue) {
-        SetCaptions(kPause, WithoutMnemonic(cmdClose->text()));
-        paused_ = false;
-        Q_EMIT PauseOver();
-    } else {
-        const std::string selected = SelectedCrLfText(*txbOutput);
-        clipboard_.Clear();
-        clipboard_.SetText(selected.empty() ? CrLfText(*txbOutput) : selected);
-        QTextCursor caret = txbOutput->textCursor();
-        caret.setPosition(caret.selectionStart());
-        txbOutput->setTextCursor(caret);
+    const ButtonState state = State();
+    switch (state.copy) {
+        case CopyButton::Pause:
+            SetCaptions({CopyButton::Continue, state.stop});
+            Pause();
+            if (!isVisible()) return;
+            break;
+        case CopyButton::Continue:
+            SetCaptions({CopyButton::Pause, state.stop});
+            paused_ = false;
+            Q_EMIT PauseOver();
+            break;
+        case CopyButton::Copy:
+        case CopyButton::CopySelected: Copy(); break;
     }
     SetCopyToClipboardButton();
 }
 
-// Waits, with the window alive, until the user continues or the window is hidden.
+// The selected part, or everything; nothing is selected afterwards.
+void frmLargeDisplay::Copy() {
+    const std::string selected = SelectedCrLfText(*txbOutput);
+    clipboard_.Clear();
+    clipboard_.SetText(selected.empty() ? CrLfText(*txbOutput) : selected);
+    QTextCursor caret = txbOutput->textCursor();
+    caret.setPosition(caret.selectionStart());
+    txbOutput->setTextCursor(caret);
+}
+
+// Waits, with the window alive, until the user continues, the window is hidden or the program ends.
 void frmLargeDisplay::Pause() {
     paused_ = true;
     SetCopyToClipboardButton();
     QEventLoop loop;
     connect(this, &frmLargeDisplay::PauseOver, &loop, &QEventLoop::quit);
-    loop.exec();
+    while (paused_ && isVisible() && loop.exec() == 0) continue;
 }
 
 // What a click on cmdClose begins.
 // returns true when the window is to be hidden
 bool frmLargeDisplay::CloseOrStop() {
-    if (!Stopped()) {
-        SetCaptions(WithoutMnemonic(cmdCopyToClipboard->text()), kClose);
+    const ButtonState state = State();
+    if (state.stop) {
+        SetCaptions({state.copy, false});
         cmdCopyToClipboard->setEnabled(true);
         return false;
     }
@@ -209,50 +264,64 @@ bool frmLargeDisplay::CloseOrStop() {
 }
 
 void frmLargeDisplay::UpdateCopyButton() {
-    const QString caption = WithoutMnemonic(cmdCopyToClipboard->text());
-    const QString closeCaption = WithoutMnemonic(cmdClose->text());
-    if (caption == kPause) {
+    const ButtonState state = State();
+    if (state.copy == CopyButton::Pause) {
         SetCopyButtonWidth(4000, 2000);
-    } else if (caption == kContinue) {
+    } else if (state.copy == CopyButton::Continue) {
         SetCopyButtonWidth(3000, 2000);
     } else if (txbOutput->textCursor().hasSelection()) {
-        SetCaptions(kCopySelected, closeCaption);
+        SetCaptions({CopyButton::CopySelected, state.stop});
         SetCopyButtonWidth(3500, 3500);
     } else {
-        SetCaptions(kCopy, closeCaption);
+        SetCaptions({CopyButton::Copy, state.stop});
         SetCopyButtonWidth(3500, 2500);
     }
 }
 
-void frmLargeDisplay::SetCaptions(const QString& copyCaption, const QString& closeCaption) {
-    const QStringList captions = WithMnemonics({copyCaption, closeCaption});
+frmLargeDisplay::ButtonState frmLargeDisplay::State() const {
+    const QString caption = Caption(*cmdCopyToClipboard);
+    ButtonState state;
+    for (const CopyButton copy : {CopyButton::CopySelected, CopyButton::Pause, CopyButton::Continue}) {
+        if (caption == CaptionFor(copy)) state.copy = copy;
+    }
+    state.stop = Caption(*cmdClose) == kStop;
+    return state;
+}
+
+void frmLargeDisplay::SetCaptions(ButtonState state) {
+    const QStringList captions = WithMnemonics({CaptionFor(state.copy), state.stop ? kStop : kClose});
     cmdCopyToClipboard->setText(captions[0]);
     cmdClose->setText(captions[1]);
-    ArrangeControls();
 }
 
 // Widths in twips by the language of numbered texts; never narrower than the caption.
 void frmLargeDisplay::SetCopyButtonWidth(int german, int other) {
     const int width = TwipsToPixels(texts_.TextLanguage == LanguageGerman ? german : other);
-    cmdCopyToClipboard->resize(std::max(width, cmdCopyToClipboard->sizeHint().width()),
-                               cmdCopyToClipboard->height());
-    ArrangeControls();
+    cmdCopyToClipboard->setFixedWidth(std::max(width, cmdCopyToClipboard->sizeHint().width()));
+    layout()->activate();
 }
 
 void frmLargeDisplay::ArrangeControls() {
-    const QSize closeSize = cmdClose->sizeHint();
-    cmdClose->resize(closeSize);
-    cmdCopyToClipboard->resize(std::max(cmdCopyToClipboard->width(), cmdCopyToClipboard->sizeHint().width()),
-                               closeSize.height());
-    const int buttonsWidth = cmdCopyToClipboard->width() + closeSize.width() + TwipsToPixels(3 * kCopyLeft);
-    setMinimumSize(std::max(TwipsToPixels(kLeastWidth), buttonsWidth), TwipsToPixels(kLeastHeight));
+    const int text = TwipsToPixels(kTextMargin);
+    const int beside = TwipsToPixels(kButtonMargin) - text;
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(beside, 0, TwipsToPixels(kButtonMargin) - text, 0);
+    buttons->addWidget(cmdCopyToClipboard);
+    buttons->addStretch();
+    buttons->addWidget(cmdClose);
 
-    const int windowHeight = height() + TwipsToPixels(kTitleBarHeight);
-    txbOutput->setGeometry(TwipsToPixels(kTextLeft), TwipsToPixels(kTextTop), width() - TwipsToPixels(300),
-                           windowHeight - closeSize.height() - TwipsToPixels(1000));
-    const int top = windowHeight - closeSize.height() - TwipsToPixels(700);
-    cmdCopyToClipboard->move(TwipsToPixels(kCopyLeft), top);
-    cmdClose->move(width() - closeSize.width() - TwipsToPixels(330), top);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(text, text, text,
+                               TwipsToPixels(kBelowButtons) - TwipsToPixels(kTitleBarHeight));
+    column->setSpacing(text);
+    column->addWidget(txbOutput, 1);
+    column->addLayout(buttons);
+    KeepLeastSize();
+}
+
+void frmLargeDisplay::KeepLeastSize() {
+    const QSize described(TwipsToPixels(kLeastWidth), TwipsToPixels(kLeastHeight));
+    setMinimumSize(described.expandedTo(layout()->minimumSize()).boundedTo(screen()->availableSize()));
 }
 
 }  // namespace calvoro

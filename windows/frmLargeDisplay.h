@@ -18,6 +18,9 @@
 
 namespace calvoro {
 
+/// What the copy button offers.
+enum class CopyButton { Copy, CopySelected, Pause, Continue };
+
 class frmLargeDisplay : public QWidget {
     Q_OBJECT
 
@@ -34,6 +37,15 @@ public:
     void ShowBeginning();
     void ShowEnd();
 
+    /// Places the window, kept on the screen.
+    /// outer  with the frame, pixels
+    /// frame  what the window has, or will have when it is shown, around its contents
+    void Place(QRect outer, QSize frame);
+
+    /// The share of one character, in twips, of the width of a window that shows this line whole: its
+    /// margins, its scroll bar and its frame included.
+    std::int16_t CharacterWidth(std::string_view line) const;
+
     /// Widens the window to fit a line, in the middle of the screen.
     /// characterWidth  twips
     /// screenShare     the part of the screen's width to keep to, (0, 1]
@@ -47,6 +59,9 @@ public:
     /// group  an empty line between texts of different folders
     void DisplayArray(const std::vector<std::string>& texts, std::size_t first, std::size_t last,
                       std::string_view path, bool group);
+
+    /// Sets title and accessible name in the language of the interface; the buttons' captions stay.
+    void SetLanguageDependentText();
 
     /// What happens when the window is activated.
     void Form_Activate();
@@ -67,23 +82,34 @@ Q_SIGNALS:
     void PauseOver();
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // What the buttons offer. Their captions are where it is kept.
+    struct ButtonState {
+        CopyButton copy = CopyButton::Copy;
+        bool stop = false;  // else: close
+    };
+
     void OnCopyToClipboard();
+    void Copy();
     void Pause();
     bool CloseOrStop();
     void UpdateCopyButton();
-    void SetCaptions(const QString& copyCaption, const QString& closeCaption);
+    ButtonState State() const;
+    void SetCaptions(ButtonState state);
     void SetCopyButtonWidth(int german, int other);
     void ArrangeControls();
+    void KeepLeastSize();
 
     Clipboard& clipboard_;
     const Texts& texts_;
     OutputBuffer buffer_;
+    QSize frame_{0, 0};  // what the window has, or will have, around its contents
     bool paused_ = false;
     bool activated_ = false;
 

@@ -5,10 +5,10 @@
 #include <QScreen>
 #include <algorithm>
 
-#include "platform/Twips.h"
 #include "windows/Controls.h"
 #include "windows/Placement.h"
 #include "windows/QtText.h"
+#include "windows/Twips.h"
 
 namespace calvoro {
 namespace {

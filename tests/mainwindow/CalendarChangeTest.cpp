@@ -221,6 +221,35 @@ private Q_SLOTS:
         QCOMPARE(main.Text(u"txbFirstDate"_s), u"2024-03-02"_s);
     }
 
+    void AConversionByArrowKeyThatIsSentBackLeavesTheFocusOnTheChosenOption_data() {
+        QTest::addColumn<bool>("first");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("option");  // that the key leaves
+        QTest::addColumn<int>("messages");
+        for (const bool first : {true, false}) {
+            const char* box = first ? "first" : "second";
+            QTest::addRow("%s abandoned", box) << first << u"2,100,000,000"_s << 3 << 0;
+            QTest::addRow("%s not read", box) << first << u"abc"_s << 3 << 1;
+        }
+    }
+    void AConversionByArrowKeyThatIsSentBackLeavesTheFocusOnTheChosenOption() {
+        QFETCH(bool, first);
+        QFETCH(QString, text);
+        QFETCH(int, option);
+        QFETCH(int, messages);
+        const QString chosen = SideOf(first).option(Offered(option));
+        MainWindowFixture main;
+        main.Start();
+        main.Click(chosen);
+        main.Get<QLineEdit>(BoxOf(first)).setText(text);
+        main.Focus(chosen);
+        main.Press(Qt::Key_Down);  // to ordinal dates
+        QVERIFY(main.Button(chosen).isChecked());
+        QCOMPARE(main.Focused(), chosen);
+        QCOMPARE(main.Text(BoxOf(first)), text);
+        QCOMPARE(static_cast<int>(main.Shown().size()), messages);
+    }
+
     void MessagesStayEnglishUntilTheMonthWindowIsOpened() {
         MainWindowFixture main;
         main.Start();

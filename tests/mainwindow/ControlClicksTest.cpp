@@ -95,27 +95,31 @@ private Q_SLOTS:
     void ADeliberatelyLazyThousandsSeparatorRewritesNothing_data() {
         QTest::addColumn<QString>("option");
         QTest::addColumn<QString>("computed");
+        QTest::addColumn<QString>("today");
         QTest::newRow("comma") << "optThousSepIsComma"
-                               << "2,460,385";
+                               << "2,460,385"
+                               << "2,461,365";
         QTest::newRow("dot") << "optThousSepIsDot"
-                             << "2.460.385";
+                             << "2.460.385"
+                             << "2.461.365";
         QTest::newRow("none") << "optThousSepNone"
-                              << "2460385";
+                              << "2460385"
+                              << "2461365";
     }
     void ADeliberatelyLazyThousandsSeparatorRewritesNothing() {
         QFETCH(QString, option);
         QFETCH(QString, computed);
+        QFETCH(QString, today);
         MainWindowFixture main;
         Settings settings;
         settings.thousandsSeparator = option.endsWith("Comma"_L1) ? '.' : ',';
         settings.todayCalendar = CalendarNumber::JDN;
         main.StartWith(settings);
-        const QString label = main.Get<QLabel>(u"lblTodaysDate"_s).text();
         main.Fill(u"2460385"_s, u"1,000"_s, QString());
         main.Focus(u"cmdHelp"_s);
         main.Click(option);
         QCOMPARE(main.Boxes(), QStringList({"2460385", "1,000", ""}));
-        QCOMPARE(main.Get<QLabel>(u"lblTodaysDate"_s).text(), label);
+        QCOMPARE(main.Get<QLabel>(u"lblTodaysDate"_s).text(), u"Today is Friday, %1 JDN"_s.arg(today));
         QCOMPARE(main.Focused(), u"cmdCompute"_s);
 
         main.Fill(u"2024-03-15"_s, QString(), QString());
@@ -247,6 +251,64 @@ private Q_SLOTS:
         main.Click(u"lblVantorelSystems"_s);
         QCOMPARE(main.Shown().size(), 1U);
         QCOMPARE(main.Shown().front().title, std::string("Cannot launch web browser"));
+    }
+
+    void TheHyphenReachesTheTodayLabelsAtOnceAndKeepsTheFocus() {
+        MainWindowFixture main;
+        Settings settings;
+        settings.todayCalendar = CalendarNumber::ISO;
+        main.StartWith(settings);
+        main.Click(u"chkHyphen"_s);
+        QCOMPARE(main.Get<QLabel>(u"lblTodaysDate"_s).text(), u"Today is Friday, 2026W475 ISO"_s);
+        QCOMPARE(main.Get<QLabel>(u"lblWeekFromToday"_s).text(),
+                 u"A week from today is Friday, 2026W485 ISO"_s);
+        QCOMPARE(main.Focused(), u"chkHyphen"_s);
+    }
+
+    void AnOptionChosenByArrowKeyKeepsTheFocus_data() {
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::newRow("language") << "optLanguageIsEnglish"
+                                  << "optLanguageIsGerman";
+        QTest::newRow("first calendar") << "optFirstDateIsCE"
+                                        << "optFirstDateIsJC";
+        QTest::newRow("second calendar") << "optSecondDateIsCE"
+                                         << "optSecondDateIsJC";
+        QTest::newRow("format") << "optDateFormatIsYMD"
+                                << "optDateFormatIsDMY";
+        QTest::newRow("separator") << "optSeparatorIsDash"
+                                   << "optSeparatorIsSlash";
+        QTest::newRow("thousands") << "optThousSepIsComma"
+                                   << "optThousSepIsDot";
+        QTest::newRow("unit") << "optDays"
+                              << "optMonths";
+    }
+    void AnOptionChosenByArrowKeyKeepsTheFocus() {
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        MainWindowFixture main;
+        main.Start();
+        main.Fill(u"2024-03-15"_s, u"5"_s, u"2024-03-25"_s);
+        main.Focus(from);
+        main.Press(Qt::Key_Down);
+        QVERIFY(main.Button(to).isChecked());
+        QCOMPARE(main.Focused(), to);
+        main.Press(Qt::Key_Up);
+        QVERIFY(main.Button(from).isChecked());
+        QCOMPARE(main.Focused(), from);
+    }
+
+    void SpaceOnAnOptionOrACheckBoxLeadsToTheNextStep() {
+        MainWindowFixture main;
+        main.Start();
+        main.Fill(u"2024-03-15"_s, u"5"_s, QString());
+        main.Focus(u"optMonths"_s);
+        main.Press(Qt::Key_Space);
+        QVERIFY(main.Button(u"optMonths"_s).isChecked());
+        QCOMPARE(main.Focused(), u"cmdCompute"_s);
+        main.Focus(u"chkVerbose"_s);
+        main.Press(Qt::Key_Space);
+        QCOMPARE(main.Focused(), u"cmdCompute"_s);
     }
 
     void ThePressOnTheSecondHalfOfTheHyphenCaptionIsAClick() {

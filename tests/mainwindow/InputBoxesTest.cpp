@@ -225,6 +225,33 @@ private Q_SLOTS:
         QCOMPARE(main.Button(u"optFirstDateIsORD"_s).text(), u"Ordinal date (yyyy-ddd)"_s);
     }
 
+    void TheHyphenFindsADateBetweenBlanksAndBeforeItsTag_data() {
+        QTest::addColumn<int>("calendar");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("compact");
+        QTest::newRow("ordinal date with tag") << 4 << "2024-075 ORD"
+                                               << "2024075";
+        QTest::newRow("ordinal date and a blank") << 4 << "2024-075 "
+                                                  << "2024075";
+        QTest::newRow("week date with tag") << 2 << "  2024-W11-5 ISO "
+                                            << "2024W115";
+        QTest::newRow("another's tag") << 4 << "2024-075 ISO"
+                                       << "2024-075 ISO";
+        QTest::newRow("compact already") << 4 << " 2024075 ORD"
+                                         << " 2024075 ORD";
+    }
+    void TheHyphenFindsADateBetweenBlanksAndBeforeItsTag() {
+        QFETCH(int, calendar);
+        QFETCH(QString, text);
+        QFETCH(QString, compact);
+        MainWindowFixture main;
+        main.Start();
+        main.Click(FirstOption(Offered(calendar)));
+        main.Fill(text, QString(), QString());
+        main.Click(u"chkHyphen"_s);
+        QCOMPARE(main.Text(u"txbFirstDate"_s), compact);
+    }
+
     void TheHyphenLeavesOtherTextsAlone_data() {
         QTest::addColumn<int>("calendar");
         QTest::addColumn<QString>("text");
@@ -311,6 +338,19 @@ private Q_SLOTS:
         QCOMPARE(main.Output(), QString());
     }
 
+    void AnEnterThatIsStillHeldDownIsNoAnswer() {
+        MainWindowFixture main;
+        main.Start();
+        bool open = false;
+        ComputeWithThreeBoxes(main, [&open](QWidget& dialog) {
+            QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+            QCoreApplication::sendEvent(dialog.focusWidget(), &repeated);
+            open = dialog.isVisible();
+            dialog.close();
+        });
+        QVERIFY(open);
+    }
+
     void TheDialogWorksByKeyboard() {
         MainWindowFixture main;
         main.Start();
@@ -332,7 +372,7 @@ private Q_SLOTS:
         main.Start();
         QStringList captions;
         const auto read = [&captions](QWidget& dialog) {
-            captions = {dialog.windowTitle()};
+            captions = {dialog.windowTitle(), dialog.findChild<QLabel*>(u"lblMessage"_s)->text()};
             for (const char* name : {"optClearFirstDate", "optClearDateDiff", "optClearSecondDate",
                                      "optCancel", "cmdContinue"}) {
                 captions.push_back(Caption(*dialog.findChild<QWidget*>(QLatin1String(name))));
@@ -340,11 +380,17 @@ private Q_SLOTS:
             dialog.close();
         };
         ComputeWithThreeBoxes(main, read);
-        QCOMPARE(captions, QStringList({"Clear", "First date", "Date difference", "Second date",
+        QCOMPARE(captions, QStringList({"Clear",
+                                        "If both the first date and the second date are specified\n"
+                                        "then the date difference window must be empty.",
+                                        "First date", "Date difference", "Second date",
                                         "Cancel this operation", "Continue"}));
         main.Click(u"optLanguageIsGerman"_s);
         ComputeWithThreeBoxes(main, read);
-        QCOMPARE(captions, QStringList({"Loeschen", "Erstes Datum", "Datumsdifferenz", "Zweites Datum",
+        QCOMPARE(captions, QStringList({"Loeschen",
+                                        "Wenn sowohl Erstes als auch Zweites Datum angegeben sind,\n"
+                                        "muss das Feld fuer die Datumsdifferenz leer sein.",
+                                        "Erstes Datum", "Datumsdifferenz", "Zweites Datum",
                                         "Annullieren Sie diese Operation", "Fortfahren"}));
     }
 

@@ -1,7 +1,11 @@
 // The keyboard in the input boxes: what may be typed, Enter, and what is left to the toolkit.
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
 
 #include "tests/mainwindow/MainWindowFixture.h"
 
@@ -43,12 +47,63 @@ private Q_SLOTS:
         MainWindowFixture main;
         main.Start();
         for (const QString& box : {u"txbFirstDate"_s, u"txbDateDiff"_s, u"txbSecondDate"_s}) {
-            for (const QString& character : {u"ä"_s, u"٣"_s, u"１"_s, u"−"_s, u"\u00a0"_s, u"1"_s}) {
+            for (const QString& character :
+                 {u"ä"_s, u"٣"_s, u"１"_s, u"−"_s, u"\u00a0"_s, u"\u00ad"_s, u"\u200c"_s, u"\u200e"_s,
+                  u"\u2066"_s, u"\ufeff"_s, u"\ue000"_s, u"\U0001d7d9"_s, u"\U000e0031"_s, u"1"_s}) {
                 QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, character);
                 QCoreApplication::sendEvent(&main.Get<QLineEdit>(box), &event);
             }
             QCOMPARE(main.Text(box), u"1"_s);
         }
+    }
+
+    void TheWeekLetterIsForTheBoxOfAWeekDateOnly() {
+        MainWindowFixture main;
+        main.Start();
+        main.Click(u"optFirstDateIsISO"_s);
+        for (const QString& box : {u"txbFirstDate"_s, u"txbSecondDate"_s, u"txbDateDiff"_s}) {
+            main.Focus(box);
+            main.Type(u"1W2w"_s);
+        }
+        QCOMPARE(main.Boxes(), QStringList({"1W2w", "12", "12"}));
+        main.Fill(QString(), QString(), QString());
+        main.Click(u"optFirstDateIsCE"_s);
+        main.Click(u"optSecondDateIsISO"_s);
+        for (const QString& box : {u"txbFirstDate"_s, u"txbSecondDate"_s}) {
+            main.Focus(box);
+            main.Type(u"1W"_s);
+        }
+        QCOMPARE(main.Boxes(), QStringList({"1", "", "1W"}));
+    }
+
+    void OnlyUpAndDownAloneStepADate_data() {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        const auto row = [](const char* name, const char* box, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+            QTest::newRow(name) << box << key << modifiers;
+        };
+        row("Up in the difference", "txbDateDiff", Qt::Key_Up, Qt::NoModifier);
+        row("Down in the difference", "txbDateDiff", Qt::Key_Down, Qt::NoModifier);
+        row("Ctrl+Up", "txbFirstDate", Qt::Key_Up, Qt::ControlModifier);
+        row("Ctrl+Down", "txbSecondDate", Qt::Key_Down, Qt::ControlModifier);
+        row("Shift+Up", "txbFirstDate", Qt::Key_Up, Qt::ShiftModifier);
+        row("Shift+Down", "txbSecondDate", Qt::Key_Down, Qt::ShiftModifier);
+    }
+    void OnlyUpAndDownAloneStepADate() {
+        QFETCH(QString, box);
+        QFETCH(Qt::Key, key);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        MainWindowFixture main;
+        main.Start();
+        main.Fill(u"2024-03-15"_s, u"7"_s, u"2024-03-15"_s);
+        main.Focus(box);
+        main.Press(key, modifiers);
+        QCOMPARE(main.Boxes(), QStringList({"2024-03-15", "7", "2024-03-15"}));
+        QCOMPARE(main.Focused(), box);
+        main.Focus(u"txbFirstDate"_s);
+        main.Press(Qt::Key_Up, Qt::KeypadModifier);
+        QCOMPARE(main.Boxes(), QStringList({"2024-03-16", "", "2024-03-15"}));
     }
 
     void OnlyCharactersOfANumberAreTypedAsDifference_data() {
@@ -227,6 +282,9 @@ private Q_SLOTS:
         QTest::newRow("a letter among them") << "12x3"
                                              << "";
         QTest::newRow("other digits") << QString::fromUtf8("１２") << "";
+        QTest::newRow("as long as may be") << QString(18, u'1') << QString(18, u'1');
+        QTest::newRow("longer than may be") << QString(19, u'1') << "";
+        QTest::newRow("a format character among them") << u"1\u200e2"_s << "";
     }
     void AnInputMethodsTextPassesTheFilterToo() {
         QFETCH(QString, committed);
@@ -238,6 +296,86 @@ private Q_SLOTS:
         event.setCommitString(committed);
         QCoreApplication::sendEvent(&main.Get<QLineEdit>(u"txbFirstDate"_s), &event);
         QCOMPARE(main.Text(u"txbFirstDate"_s), text);
+    }
+
+    void ARefusedTextOfAnInputMethodLeavesNothingBehind() {
+        MainWindowFixture main;
+        main.Start();
+        auto& box = main.Get<QLineEdit>(u"txbFirstDate"_s);
+        QApplication::setCursorFlashTime(0);
+        main.Focus(u"txbFirstDate"_s);
+        const QImage empty = box.grab().toImage();
+        QInputMethodEvent composing(u"12"_s, {});
+        QCoreApplication::sendEvent(&box, &composing);
+        QVERIFY(box.grab().toImage() != empty);
+        QInputMethodEvent finished;
+        finished.setCommitString(u"x"_s);
+        QCoreApplication::sendEvent(&box, &finished);
+        QVERIFY(box.grab().toImage() == empty);
+        QCOMPARE(box.text(), QString());
+    }
+
+    void EnterThatIsHeldDownComputesOnce_data() {
+        QTest::addColumn<QString>("focus");
+        for (const char* name : {"txbFirstDate", "txbDateDiff", "cmdCompute", "optFirstDateIsCE"}) {
+            QTest::newRow(name) << name;
+        }
+    }
+    void EnterThatIsHeldDownComputesOnce() {
+        QFETCH(QString, focus);
+        MainWindowFixture main;
+        main.Start();
+        main.Click(u"chkVerbose"_s);
+        main.Fill(u"2024-03-15"_s, u"10"_s, QString());
+        main.Focus(focus);
+        for (const bool repeated : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, repeated);
+            QCoreApplication::sendEvent(QApplication::focusWidget(), &press);
+        }
+        QCOMPARE(main.Output(), u"2024-03-15 CE plus 10 days = 2024-03-25 CE\n"_s);
+    }
+
+    void WhatIsPastedOrDroppedLosesLineEndsTabsAndBlanksAtItsEnds_data() {
+        QTest::addColumn<QString>("way");
+        for (const char* way : {"Ctrl+V", "Shift+Insert", "menu", "drop"}) QTest::newRow(way) << way;
+    }
+    void WhatIsPastedOrDroppedLosesLineEndsTabsAndBlanksAtItsEnds() {
+        QFETCH(QString, way);
+        MainWindowFixture main;
+        main.Start();
+        auto& box = main.Get<QLineEdit>(u"txbSecondDate"_s);
+        const auto bring = [&](const QString& text) {
+            box.clear();
+            box.setFocus();
+            QGuiApplication::clipboard()->setText(text);
+            if (way == "Ctrl+V") {
+                main.Press(Qt::Key_V, Qt::ControlModifier);
+            } else if (way == "Shift+Insert") {
+                main.Press(Qt::Key_Insert, Qt::ShiftModifier);
+            } else if (way == "menu") {
+                QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, box.mapToGlobal(QPoint(2, 2)));
+                QCoreApplication::sendEvent(&box, &event);
+                auto* menu = box.findChild<QMenu*>();
+                for (QAction* action : menu->actions()) {
+                    if (action->text().startsWith(u"&Paste"_s)) action->trigger();
+                }
+                menu->close();
+            } else {
+                QMimeData dropped;
+                dropped.setText(text);
+                // The toolkit drops where a drag has come in.
+                QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+                QCoreApplication::sendEvent(&box, &enter);
+                QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+                QCoreApplication::sendEvent(&box, &drop);
+            }
+            return box.text();
+        };
+        QCOMPARE(bring(u"2460370\n"_s), u"2460370"_s);
+        QCOMPARE(bring(u"\r\n\t 2024-03-15 CE \u2028\t\r\n"_s), u"2024-03-15 CE"_s);
+        QCOMPARE(bring(u" 1 \t 2 "_s), u"1 \t 2"_s);
+        QCOMPARE(bring(u"2024"_s), u"2024"_s);
+        QCOMPARE(bring(u" \n"_s), QString());
     }
 
     void AControlKeyIsNoCharacter() {

@@ -3,7 +3,6 @@
 
 #include <QAccessible>
 
-#include "mainwindow/ResultAnnouncer.h"
 #include "tests/mainwindow/MainWindowFixture.h"
 
 using namespace calvoro;
@@ -178,7 +177,7 @@ private Q_SLOTS:
         MainWindowFixture main;
         main.Start();
         const QAccessibleInterface& notification =
-            *QAccessible::queryAccessibleInterface(&main.Get<ResultAnnouncer>(u"resultAnnouncer"_s));
+            *QAccessible::queryAccessibleInterface(&main.Get<QWidget>(u"announcer"_s));
         QCOMPARE(notification.role(), QAccessible::Notification);
         const auto announced = [&notification] { return notification.text(QAccessible::Name); };
 

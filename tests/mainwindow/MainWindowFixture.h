@@ -13,8 +13,8 @@
 #include <memory>
 #include <string>
 
-#include "mainwindow/SettingsFile.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/settings/SettingsFile.h"
 #include "tests/support/FakePlatform.h"
 #include "text/ProgramText.h"
 #include "windows/Mnemonics.h"
@@ -62,7 +62,7 @@ public:
 
     void StartWith(const Settings& settings) {
         SettingsFilePath(fake.place.folder, "Calvoro");  // makes the folder
-        if (!WriteSettingsFile(SettingsPath(), settings)) qFatal("cannot write the settings");
+        if (!WriteSettingsFile(SettingsPath(), settings, "")) qFatal("cannot write the settings");
         Start();
     }
 
@@ -130,6 +130,15 @@ public:
 
     std::vector<ShownMessage>& Shown() { return fake.boxes.shown; }
 };
+
+/// The window of a kind that the main window has opened so far; null when it has not.
+template <typename Window>
+Window* OpenedWindow() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* found = qobject_cast<Window*>(window)) return found;
+    }
+    return nullptr;
+}
 
 /// What the user does while a modal window waits; runs as soon as one has the focus.
 template <typename Action>

@@ -32,12 +32,6 @@ private:
                                main.Button(u"cmdCopyToClipboard"_s).isEnabled(),
                                main.Button(u"cmdEnlarge"_s).isEnabled());
     }
-    static frmLargeDisplay* Enlarged() {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (auto* large = qobject_cast<frmLargeDisplay*>(window)) return large;
-        }
-        return nullptr;
-    }
     // Copies as the user does; the note is pressed away.
     static QRect Copy(MainWindowFixture& main) {
         QRect note;
@@ -166,7 +160,7 @@ private Q_SLOTS:
         Box(main).setPlainText(u"  "_s + QString(141, u'x') + u"\nend "_s);
         WaitForTick(main);
         main.Click(u"cmdEnlarge"_s);
-        frmLargeDisplay* large = Enlarged();
+        frmLargeDisplay* large = OpenedWindow<frmLargeDisplay>();
         QVERIFY(large != nullptr);
         QVERIFY(large->isVisible());
         const QString trimmed = QString(141, u'x') + u"\nend"_s;
@@ -180,7 +174,7 @@ private Q_SLOTS:
         Box(main).setPlainText(QString(150, u'y'));
         main.Activate();
         main.Click(u"cmdEnlarge"_s);
-        QCOMPARE(Enlarged(), large);
+        QCOMPARE(OpenedWindow<frmLargeDisplay>(), large);
         QCOMPARE(large->findChild<QPlainTextEdit*>(u"txbOutput"_s)->toPlainText(), QString(150, u'y'));
     }
 
@@ -191,7 +185,7 @@ private Q_SLOTS:
         WaitForTick(main);
         main.Click(u"cmdEnlarge"_s);
         const QRect outer = main.window->frameGeometry();
-        const QRect inner = Enlarged()->frameGeometry();
+        const QRect inner = OpenedWindow<frmLargeDisplay>()->frameGeometry();
         // 100 twips inside three edges, 380 below the upper one; the test's screen is narrower than the
         // window.
         QCOMPARE(inner.size(), outer.size() - QSize(12, 31));
@@ -200,16 +194,31 @@ private Q_SLOTS:
         QCOMPARE(inner.top(), outer.top() + 25);
     }
 
+    void TheLongestLineByItsCharactersFitsTheEnlargedWindow() {
+        MainWindowFixture main;
+        main.Start();
+        main.window->resize(main.window->minimumSizeHint());
+        const QString longest(70, u'W');
+        // Longer in bytes, not in characters.
+        Box(main).setPlainText(QString(60, u'\u00e4') + "\n" + longest + "\n" + QString(100, u'\n'));
+        WaitForTick(main);
+        main.Click(u"cmdEnlarge"_s);
+        const auto* box = OpenedWindow<frmLargeDisplay>()->findChild<QPlainTextEdit*>(u"txbOutput"_s);
+        const int share = OpenedWindow<frmLargeDisplay>()->screen()->geometry().width() * 9 / 10;
+        QVERIFY(box->viewport()->width() >= box->fontMetrics().horizontalAdvance(longest) + 8 ||
+                OpenedWindow<frmLargeDisplay>()->frameGeometry().width() >= share - 1);
+    }
+
     void AMinimisedEnlargedWindowComesBack() {
         MainWindowFixture main;
         main.Start();
         Box(main).setPlainText(QString(150, u'x'));
         WaitForTick(main);
         main.Click(u"cmdEnlarge"_s);
-        Enlarged()->showMinimized();
+        OpenedWindow<frmLargeDisplay>()->showMinimized();
         main.Click(u"cmdEnlarge"_s);
-        QVERIFY(!Enlarged()->isMinimized());
-        QVERIFY(Enlarged()->isVisible());
+        QVERIFY(!OpenedWindow<frmLargeDisplay>()->isMinimized());
+        QVERIFY(OpenedWindow<frmLargeDisplay>()->isVisible());
     }
 
     void EnlargingBlanksEmptiesThemAndSaysSo_data() {
@@ -238,7 +247,7 @@ private Q_SLOTS:
         const ShownMessage expected{prompt.toStdString(), title.toStdString(), MessageIcon::Exclamation};
         QCOMPARE(main.Shown().front(), expected);
         QCOMPARE(main.Focused(), u"txbFirstDate"_s);
-        QVERIFY(Enlarged() == nullptr);
+        QVERIFY(OpenedWindow<frmLargeDisplay>() == nullptr);
     }
 
     void OnlyBlanksAreTrimmed() {

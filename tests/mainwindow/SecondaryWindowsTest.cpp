@@ -6,6 +6,7 @@
 #include "windows/Placement.h"
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
+#include "windows/frmLargeDisplay.h"
 
 using namespace calvoro;
 
@@ -13,21 +14,17 @@ class SecondaryWindowsTest : public QObject {
     Q_OBJECT
 
 private:
-    template <typename Window>
-    static Window* Open() {
-        for (QWidget* window : QApplication::topLevelWidgets()) {
-            if (auto* found = qobject_cast<Window*>(window)) return found;
-        }
-        return nullptr;
-    }
-
     // "year/month/calendar" of the month window.
     static QString ShownMonth() {
-        const auto* month = Open<frmDisplayMonth>();
+        const auto* month = OpenedWindow<frmDisplayMonth>();
         if (month == nullptr) return u"no window"_s;
         return u"%1/%2/%3"_s.arg(month->findChild<QLineEdit*>(u"txbYear"_s)->text())
             .arg(month->findChild<QComboBox*>(u"cboMonths"_s)->currentIndex() + 1)
             .arg(month->GetCalendar() == CalendarNumber::JC ? "JC" : "CE");
+    }
+
+    static QString MonthGrid() {
+        return OpenedWindow<frmDisplayMonth>()->findChild<QPlainTextEdit*>(u"txbMonth"_s)->toPlainText();
     }
 
 private Q_SLOTS:
@@ -69,8 +66,11 @@ private Q_SLOTS:
         main.Get<QLineEdit>(u"txbFirstDate"_s).setText(text);
         main.Click(u"cmdDisplayMonth"_s);
         QCOMPARE(ShownMonth(), month);
-        QVERIFY(Open<frmDisplayMonth>()->isVisible());
-        QVERIFY(!Open<frmDisplayMonth>()->findChild<QPlainTextEdit*>(u"txbMonth"_s)->toPlainText().isEmpty());
+        QVERIFY(OpenedWindow<frmDisplayMonth>()->isVisible());
+        QVERIFY(!OpenedWindow<frmDisplayMonth>()
+                     ->findChild<QPlainTextEdit*>(u"txbMonth"_s)
+                     ->toPlainText()
+                     .isEmpty());
         QCOMPARE(main.Text(u"txbFirstDate"_s), text);
         QVERIFY(main.Shown().empty());
     }
@@ -80,7 +80,7 @@ private Q_SLOTS:
         main.Start();
         main.window->move(20, 10);
         main.Click(u"cmdDisplayMonth"_s);
-        auto* month = Open<frmDisplayMonth>();
+        auto* month = OpenedWindow<frmDisplayMonth>();
         // 4000 and 1710 twips, kept on the screen.
         QCOMPARE(month->pos(),
                  KeptOnScreen(main.window->pos() + QPoint(266, 114), month->frameGeometry().size(),
@@ -89,7 +89,7 @@ private Q_SLOTS:
         main.Activate();
         main.Click(u"cmdDisplayMonth"_s);
         QCOMPARE(month->pos(), QPoint(3, 4));
-        QCOMPARE(Open<frmDisplayMonth>(), month);
+        QCOMPARE(OpenedWindow<frmDisplayMonth>(), month);
     }
 
     void TheMonthWindowStartsWithTheSavedWeekStartAndKeepsTheUsers() {
@@ -104,8 +104,8 @@ private Q_SLOTS:
 
         main.Start();
         main.Click(u"cmdDisplayMonth"_s);
-        QCOMPARE(Open<frmDisplayMonth>()->GetWeekStart(), WeekStart::Monday);
-        Open<frmDisplayMonth>()->findChild<QAbstractButton*>(u"optSunday"_s)->click();
+        QCOMPARE(OpenedWindow<frmDisplayMonth>()->GetWeekStart(), WeekStart::Monday);
+        OpenedWindow<frmDisplayMonth>()->findChild<QAbstractButton*>(u"optSunday"_s)->click();
         main.Quit();
         QCOMPARE(main.Saved().monthWeekStart, WeekStart::Sunday);
         // Opened on today's month, which is a Common Era one.
@@ -124,8 +124,8 @@ private Q_SLOTS:
         main.Activate();
         main.fake.boxes.answers = {true};
         main.Click(u"cmdReset"_s);
-        QCOMPARE(Open<frmDisplayMonth>()->GetWeekStart(), WeekStart::Sunday);
-        QCOMPARE(Open<frmDisplayMonth>()->GetCalendar(), CalendarNumber::CE);
+        QCOMPARE(OpenedWindow<frmDisplayMonth>()->GetWeekStart(), WeekStart::Sunday);
+        QCOMPARE(OpenedWindow<frmDisplayMonth>()->GetCalendar(), CalendarNumber::CE);
     }
 
     void TheLanguageReachesTheMonthWindow() {
@@ -134,8 +134,21 @@ private Q_SLOTS:
         main.Click(u"cmdDisplayMonth"_s);
         main.Activate();
         main.Click(u"optLanguageIsGerman"_s);
-        const auto* next = Open<frmDisplayMonth>()->findChild<QWidget*>(u"cmdDisplayNextMonth0"_s);
+        QVERIFY(MonthGrid().startsWith(u" Son  Mon  Die "_s));
+        QCOMPARE(main.Focused(), u"txbFirstDate"_s);
+        const auto* next = OpenedWindow<frmDisplayMonth>()->findChild<QWidget*>(u"cmdDisplayNextMonth0"_s);
         QCOMPARE(Caption(*next), u"Folgender Monat zeigen"_s);
+    }
+
+    void TheGermanMonthWindowIsGermanFromItsFirstOpening() {
+        MainWindowFixture main;
+        Settings settings;
+        settings.interfaceLanguage = LanguageGerman;
+        settings.monthWeekStart = WeekStart::Monday;
+        main.StartWith(settings);
+        main.Click(u"cmdDisplayMonth"_s);
+        const auto* iso = OpenedWindow<frmDisplayMonth>()->findChild<QWidget*>(u"cmdShowHideISO"_s);
+        QCOMPARE(Caption(*iso), u"ISO-Woche-Daten zeigen"_s);
     }
 
     void NumberedTextsDeliberatelyLagUntilTheMonthWindowIsActivated() {
@@ -157,6 +170,15 @@ private Q_SLOTS:
         QCOMPARE(asked[2].title, std::string("Reset"));
     }
 
+    void CtrlMShowsTheMonth() {
+        MainWindowFixture main;
+        main.Start();
+        main.Fill(u"2024-02-29"_s, QString(), QString());
+        main.Press(Qt::Key_M, Qt::ControlModifier);
+        QCOMPARE(ShownMonth(), u"2024/2/CE"_s);
+        QVERIFY(OpenedWindow<frmDisplayMonth>()->isVisible());
+    }
+
     void HelpIsShownByClickAndByKey_data() {
         QTest::addColumn<bool>("byKey");
         QTest::newRow("click") << false;
@@ -171,7 +193,7 @@ private Q_SLOTS:
         } else {
             main.Click(u"cmdHelp"_s);
         }
-        auto* help = Open<frmHelp>();
+        auto* help = OpenedWindow<frmHelp>();
         QVERIFY(help != nullptr);
         QVERIFY(help->isVisible());
         QVERIFY(!help->isModal());
@@ -184,6 +206,63 @@ private Q_SLOTS:
         main.Activate();
         main.Click(u"cmdHelp"_s);
         QVERIFY(!help->isMinimized());
+    }
+
+    void OpenWindowsFollowTheLanguageAtOnce() {
+        MainWindowFixture main;
+        main.Start();
+        main.Get<QPlainTextEdit>(u"txbOutput"_s).setPlainText(u"line\n"_s.repeated(40));
+        QTRY_VERIFY(main.Button(u"cmdEnlarge"_s).isEnabled());
+        for (const char* opener : {"cmdHelp", "cmdEnlarge", "cmdDisplayMonth"}) {
+            main.Activate();
+            main.Button(opener).click();
+        }
+        const QWidget& help = *OpenedWindow<frmHelp>();
+        const QWidget& large = *OpenedWindow<frmLargeDisplay>();
+        const QWidget& month = *OpenedWindow<frmDisplayMonth>();
+        const auto texts = [&]() -> QStringList {
+            const auto caption = [](const QWidget& window, const char* name) {
+                return Caption(*window.findChild<QWidget*>(QLatin1String(name)));
+            };
+            return {help.windowTitle(),
+                    help.findChild<QPlainTextEdit*>(u"txbMsg"_s)->toPlainText().section(u' ', 0, 1),
+                    help.findChild<QPlainTextEdit*>(u"txbMsg"_s)->accessibleName(),
+                    caption(help, "cmdClose"),
+                    large.windowTitle(),
+                    large.findChild<QPlainTextEdit*>(u"txbOutput"_s)->accessibleName(),
+                    caption(large, "cmdCopyToClipboard"),
+                    caption(large, "cmdClose"),
+                    caption(month, "cmdClose"),
+                    caption(month, "optSunday")};
+        };
+        const QStringList english = {"Calvoro Help",  "The complete",      "Help",  "Close", "Output window",
+                                     "Output window", "Copy to clipboard", "Close", "Close", "Sunday"};
+        // The captions of the enlarged window are its state, in English.
+        const QStringList german = {
+            "Calvoro Hilfe",  "Das Benutzerhandbuch", "Hilfe", "Schliessen", "Ausgabefenster",
+            "Ausgabefenster", "Copy to clipboard",    "Close", "Schliessen", "Sonntag"};
+        QCOMPARE(texts(), english);
+        main.Activate();
+        main.Button(u"optLanguageIsGerman"_s).click();
+        QCOMPARE(QApplication::activeWindow(), main.window.get());
+        QCOMPARE(texts(), german);
+        main.Button(u"optLanguageIsEnglish"_s).click();
+        QCOMPARE(texts(), english);
+    }
+
+    void TheToolkitsWordsFollowTheLanguage() {
+        MainWindowFixture main;
+        const auto undo = [] { return QCoreApplication::translate("QLineEdit", "&Undo"); };
+        main.Start();
+        QCOMPARE(undo(), u"&Undo"_s);
+        main.Click(u"optLanguageIsGerman"_s);
+        QCOMPARE(undo(), u"&Rückgängig"_s);
+        main.Quit();
+        main.Start();
+        QCOMPARE(undo(), u"&Rückgängig"_s);
+        main.fake.boxes.answers.push_back(true);
+        main.Click(u"cmdReset"_s);
+        QCOMPARE(undo(), u"&Undo"_s);
     }
 };
 

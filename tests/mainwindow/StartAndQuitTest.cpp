@@ -1,8 +1,11 @@
 // Start-up, the settings from one run to the next, Reset and Quit.
 
 #include <QCheckBox>
+#include <QRandomGenerator>
 #include <fstream>
 
+#include "mainwindow/StartUpTexts.h"
+#include "mainwindow/settings/SettingsText.h"
 #include "tests/mainwindow/MainWindowFixture.h"
 
 using namespace calvoro;
@@ -46,6 +49,35 @@ private:
     }
 
 private Q_SLOTS:
+    void ProgramTextsThatCannotBeLoadedAreToldInACriticalBoxWithoutATitle_data() {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("message");
+        const QString missing = u"Cannot open file containing program text."_s;
+        QTest::newRow("missing") << QByteArray() << missing;
+        QTest::newRow("faulty") << QByteArray("1\tone\n1\tone\n")
+                                << u"Duplicate in program text at line 2."_s;
+    }
+    void ProgramTextsThatCannotBeLoadedAreToldInACriticalBoxWithoutATitle() {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, message);
+        const QTemporaryDir folder;
+        const std::string path = folder.path().toStdString() + "/calvoro.dat";
+        if (!content.isEmpty()) std::ofstream(path, std::ios::binary) << content.toStdString();
+        FakeMessageBoxes boxes;
+        QVERIFY(!LoadTextsOrTell(folder.path().toStdString(), boxes));
+        QCOMPARE(boxes.shown.size(), 1U);
+        const ShownMessage& shown = boxes.shown.front();
+        QVERIFY2(QString::fromStdString(shown.prompt).startsWith(message), shown.prompt.c_str());
+        QCOMPARE(shown.title, std::string());
+        QVERIFY(shown.icon == MessageIcon::Critical);
+    }
+
+    void ProgramTextsThatLoadAreNotToldOf() {
+        FakeMessageBoxes boxes;
+        QVERIFY(LoadTextsOrTell(CALVORO_SOURCE_DIR "/text", boxes));
+        QVERIFY(boxes.shown.empty());
+    }
+
     void TheFirstRunStartsWithFactorySettings() {
         MainWindowFixture main;
         main.Start();
@@ -184,6 +216,40 @@ private Q_SLOTS:
         QVERIFY(main.Button(u"optFirstDateIsORD"_s).isChecked());
         QVERIFY(main.Button(u"optMonths"_s).isChecked());
         QVERIFY(!main.Button(u"chkSaveOutput"_s).isChecked());
+    }
+
+    void EverySettingComesBackByteForByte() {
+        const QByteArrayList pieces = {"\r",          "\n",
+                                       "\r\n",        "\u2028",
+                                       "\u2029",      "\uFEFF",
+                                       "\uFDD0",      "\uFFFF",
+                                       "\U0010FFFF",  QByteArray(1, '\0'),
+                                       "\x1B",        "\"",
+                                       "\"\r\n0\r\n", "\xFF",
+                                       "\xC3",        " ",
+                                       "\t",          "\u00A0",
+                                       "\u0301",      "\U0001F600",
+                                       "2024-02-29",  QByteArray(1500, 'x')};
+        QRandomGenerator random(20261121);
+        const auto text = [&](bool lines) {
+            QByteArray made;
+            for (int count = random.bounded(12); count > 0; --count)
+                made += pieces[random.bounded(pieces.size())];
+            // A box holds no line break of the file.
+            while (!lines && made.contains("\r\n")) made.replace("\r\n", "\n");
+            return made.toStdString();
+        };
+        for (int round = 0; round < 40; ++round) {
+            MainWindowFixture main;
+            Settings settings = round % 2 == 0 ? AllButFactory() : Settings();
+            settings.firstDate = text(false);
+            settings.dateDiff = text(false);
+            settings.secondDate = round == 0 ? std::string(40'000, '1') : text(false);
+            settings.output = text(true);
+            main.StartWith(settings);
+            main.Quit();
+            QVERIFY(main.Saved() == settings);
+        }
     }
 
     void AFaultyFileGivesFactorySettingsSilently_data() {

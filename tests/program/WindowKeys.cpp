@@ -1,17 +1,19 @@
-// Prints the key that presses each button of the main window and the month window, as "frmMain.cmdEnlarge g"
-// a line: keys are given out by the windows themselves, and the tests that drive the program from outside
-// must not guess them. An argument, the number of a language, chooses whose keys.
+// Prints the key of each button and each label of the main window and the month window, as
+// "frmMain.cmdEnlarge g" a line: keys are given out by the windows themselves, and the tests that drive the
+// program from outside must not guess them. An argument, the number of a language, chooses whose keys.
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeySequence>
+#include <QLabel>
+#include <QVariant>
 #include <QWidget>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 
-#include "mainwindow/SettingsFile.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/settings/SettingsFile.h"
 #include "tests/support/FakePlatform.h"
 #include "text/ProgramText.h"
 
@@ -20,10 +22,14 @@ namespace {
 using namespace calvoro;
 
 void PrintKeys(const QWidget& window) {
-    for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-        const QString key = QKeySequence::mnemonic(button->text()).toString().section(u'+', -1).toLower();
-        if (key.isEmpty() || button->objectName().isEmpty()) continue;
-        std::printf("%s.%s %s\n", qPrintable(window.objectName()), qPrintable(button->objectName()),
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        const bool mayHaveKey = qobject_cast<const QAbstractButton*>(control) != nullptr ||
+                                qobject_cast<const QLabel*>(control) != nullptr;
+        if (!mayHaveKey || control->objectName().isEmpty()) continue;
+        const QString caption = control->property("text").toString();
+        const QString key = QKeySequence::mnemonic(caption).toString().section(u'+', -1).toLower();
+        if (key.isEmpty()) continue;
+        std::printf("%s.%s %s\n", qPrintable(window.objectName()), qPrintable(control->objectName()),
                     qPrintable(key));
     }
 }
@@ -40,7 +46,7 @@ int main(int argc, char* argv[]) {
     fakes.place.folder = folder;
     Settings settings;
     settings.interfaceLanguage = static_cast<LanguageNumber>(argc > 1 ? std::atoi(argv[1]) : 0);
-    WriteSettingsFile(SettingsFilePath(folder, GetProgramText(310, LanguageEnglish)), settings);
+    WriteSettingsFile(SettingsFilePath(folder, GetProgramText(310, LanguageEnglish)), settings, "");
     {
         frmMain window(fakes.platform, {});
         window.Start();

@@ -5,7 +5,9 @@ program_test.py --list                    names every case
 program_test.py PROGRAM WINDOW_KEYS CASE  runs one
 """
 
+import itertools
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -30,8 +32,8 @@ def run_without_display(arguments=(), **environment):
 class WithoutDisplay(unittest.TestCase):
     def test_the_version_is_told(self):
         result = run_without_display(["--version"])
-        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "calvoro 13.0\n", ""))
-        self.assertEqual(run_without_display(["-V"]).stdout, "calvoro 13.0\n")
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "calvoro 13.0.1\n", ""))
+        self.assertEqual(run_without_display(["-V"]).stdout, "calvoro 13.0.1\n")
 
     def test_help_is_given_whatever_stands_beside_it(self):
         for arguments in (["--help"], ["-h"], ["-platform", "xcb", "--help"], ["--nonsense", "--help"]):
@@ -50,6 +52,11 @@ class WithoutDisplay(unittest.TestCase):
                 self.assertEqual(len(result.stderr.splitlines()), 1)
                 self.assertIn(f"'{arguments[-1]}'", result.stderr)
                 self.assertIn("--help", result.stderr)
+
+    def test_what_a_terminal_would_obey_is_not_repeated(self):
+        result = run_without_display(["--\x1b[31m\u202e"])
+        self.assertEqual(result.returncode, 2)
+        self.assertIn(r"'--\x1B[31m\xE2\x80\xAE'", result.stderr)
 
     def test_a_full_disk_is_reported(self):
         with open("/dev/full", "w") as full:
@@ -160,6 +167,9 @@ class Session(unittest.TestCase):
                           checks=(0, 0, 1, 0, 1)),
             settings_text('a "quoted" text', '"', "\u00e4", '"\r\n1', calendars="2,7,8"),
             settings_text(language=1, formats="1,46,0", checks=(1, 0, 0, 0, 0)),
+            settings_text("\ufeff\ufeff1", "a\rb\n", "\u2029\u2028\uffff\0",
+                          "\ufeff\r\r\n\n\u2029\ufdd0\ufdd1\U0010ffff\0" + "x" * 5000 + "\n"),
+            settings_text("\n\r", "1" * 40_000, "\u0301", "\r\n\n\r", checks=(1, 1, 1, 1, 1)),
         ]
         for number, row in enumerate(rows):
             with self.subTest(number):
@@ -203,10 +213,10 @@ class Session(unittest.TestCase):
         self.quit(process)
 
     def press_the_makers_name(self):
-        # The link stands in the lower right corner of the window.
+        # The link stands in the lower right corner, above the line that tells how a box is read.
         window = self.desktop.main_window()
         width, height = self.desktop.size(window)
-        self.desktop.tool("xdotool", "mousemove", "--window", window, str(width - 58), str(height - 21),
+        self.desktop.tool("xdotool", "mousemove", "--window", window, str(width - 58), str(height - 44),
                           "click", "1")
 
     def test_a_link_opens_the_browser(self):
@@ -223,6 +233,16 @@ class Session(unittest.TestCase):
 
     def test_a_link_without_a_browser_ends_in_a_message(self):
         process = self.desktop.start(PATH=str(self.desktop.folder))
+        self.press_the_makers_name()
+        self.desktop.dismiss(self.desktop.window("Cannot launch web browser"))
+        self.quit(process)
+
+    def test_an_opener_that_finds_no_browser_ends_in_a_message(self):
+        opener = self.desktop.folder / "bin" / "xdg-open"
+        opener.parent.mkdir()
+        opener.write_text("#!/bin/sh\nexit 3\n")
+        opener.chmod(0o755)
+        process = self.desktop.start(PATH=f"{opener.parent}:/usr/bin:/bin")
         self.press_the_makers_name()
         self.desktop.dismiss(self.desktop.window("Cannot launch web browser"))
         self.quit(process)
@@ -340,6 +360,97 @@ class Session(unittest.TestCase):
         for process in processes:
             self.assertEqual(self.desktop.end(process), 0)
         self.assertIn(self.settings(), texts)
+
+
+class Together(unittest.TestCase):
+    """Programs that run at once: none of them loses a result of another one."""
+
+    START = "kept from before\r\n"
+
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop(PROGRAM, WINDOW_KEYS))
+
+    def compute(self, day, start=START):
+        """Starts one more program, lets it compute from that day of March, and returns it with its window."""
+        known = set(self.desktop.windows())
+        self.desktop.put_settings(settings_text(f"2021-03-0{day}", "10", output=start, calendars="0,0,1"))
+        process = self.desktop.launch()
+        window = wait_for("one more window", lambda: next(
+            (number for number, name in self.desktop.windows().items()
+             if number not in known and name == "Calvoro 13.0"), None))
+        self.desktop.focus(window)
+        self.desktop.keys("Return")
+        return process, window
+
+    def close(self, process, window):
+        def ended():
+            self.desktop.focus(window)
+            self.desktop.keys("ctrl+q")
+            try:
+                process.wait(timeout=1)
+            except subprocess.TimeoutExpired:
+                return False
+            return True
+        wait_for("the program's end", ended)
+        self.assertEqual(process.returncode, 0)
+
+    def output(self):
+        """The saved output, its lines, and the first date that was saved with it."""
+        text = self.desktop.settings_file.read_bytes().decode()
+        output = re.fullmatch(r'(?s)(?:[^"]*\r\n){8}(?:"[^"]*"\r\n){5}"(.*)"\r\n[01]\r\n', text)
+        self.assertTrue(output, text[:1000])
+        return output[1]
+
+    def check_every_order(self, count):
+        for order in itertools.permutations(range(1, count + 1)):
+            with self.subTest(order):
+                running = {day: self.compute(day) for day in range(1, count + 1)}
+                for day in order:
+                    self.close(*running[day])
+                lines = self.output().split("\r\n")
+                self.assertEqual(lines[0] + "\r\n", self.START)
+                self.assertEqual([line[:26] for line in lines[1:-1]],
+                                 [f"2021-03-0{day} CE plus 10 days" for day in order])
+                # Of the boxes those of the last one stay.
+                self.assertIn(f'"2021-03-0{order[-1]}"'.encode(), self.desktop.settings_file.read_bytes())
+
+    def test_two_that_are_closed_in_every_order(self):
+        self.check_every_order(2)
+
+    def test_three_that_are_closed_in_every_order(self):
+        self.check_every_order(3)
+
+    def test_one_that_is_killed_while_saving(self):
+        long_start = "an earlier line\r\n" * 100_000
+        for step in range(6):
+            with self.subTest(step):
+                killed, _ = self.compute(1, long_start)
+                second = self.compute(2, long_start)
+                third = self.compute(3, long_start)
+                killed.send_signal(signal.SIGTERM)
+                time.sleep(step * 0.02)
+                killed.kill()
+                self.desktop.end(killed)
+                self.close(*third)
+                self.close(*second)
+                output = self.output()
+                self.assertTrue(output.startswith(long_start))
+                lines = output[len(long_start):].split("\r\n")[:-1]
+                days = [line[9:10] for line in lines]
+                self.assertIn(days, (["3", "2"], ["1", "3", "2"]))
+                self.assertEqual(list(self.desktop.settings_file.parent.iterdir()), [self.desktop.settings_file])
+
+    def test_one_that_saves_no_texts(self):
+        saving = self.compute(1)
+        self.desktop.put_settings(settings_text("2021-03-02", "10", output=self.START, checks=(0, 1, 1, 1, 0)))
+        known = set(self.desktop.windows())
+        process = self.desktop.launch()
+        window = wait_for("one more window", lambda: next(iter(set(self.desktop.windows()) - known), None))
+        self.close(*saving)
+        self.close(process, window)
+        # The start was this one's to drop, the other's result was not.
+        self.assertEqual([line[:26] for line in self.output().split("\r\n")],
+                         ["2021-03-01 CE plus 10 days", ""])
 
 
 def cases():

@@ -9,7 +9,8 @@
 namespace calvoro {
 namespace {
 
-const HelpAddresses kAddresses = {
+const WebAddresses kAddresses = {
+    .homePage = "https://maker.example/",
     .manualEnglish = "https://manual.example/en",
     .manualGerman = "https://manual.example/de",
     .calendarsArticle = "https://maker.example/calendars",

@@ -4,9 +4,9 @@
 
 #include <QWidget>
 
-#include "platform/Twips.h"
 #include "tests/support/FakePlatform.h"
 #include "tests/windows/WindowTesting.h"
+#include "windows/Twips.h"
 #include "windows/frmLargeDisplay.h"
 
 namespace calvoro {

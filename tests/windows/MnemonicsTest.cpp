@@ -38,6 +38,17 @@ TEST(WithMnemonics, MovesEarlierCaptionsToLetLaterOnesIn) {
     EXPECT_EQ(Marked({QStringLiteral("ABC"), QStringLiteral("AB"), QStringLiteral("A")}), "AB&C|A&B|&A");
 }
 
+TEST(WithMnemonics, LetsThoseThatAreServedFirstKeepTheirKeys) {
+    const QStringList captions = {QStringLiteral("ABC"), QStringLiteral("AB"), QStringLiteral("A")};
+    EXPECT_EQ(WithMnemonics(captions, 1).join(QStringLiteral("|")).toStdString(), "&ABC|A&B|A");
+    EXPECT_EQ(WithMnemonics(captions, 2).join(QStringLiteral("|")).toStdString(), "&ABC|A&B|A");
+    EXPECT_EQ(WithMnemonics(
+                  {QStringLiteral("A"), QStringLiteral("AB"), QStringLiteral("B"), QStringLiteral("BC")}, 1)
+                  .join(QStringLiteral("|"))
+                  .toStdString(),
+              "&A|A&B|B|B&C");
+}
+
 TEST(WithoutMnemonic, GivesTheCaptionBack) {
     EXPECT_EQ(WithoutMnemonic(QStringLiteral("Copy &to clipboard")).toStdString(), "Copy to clipboard");
     EXPECT_EQ(WithoutMnemonic(QStringLiteral("Close")).toStdString(), "Close");

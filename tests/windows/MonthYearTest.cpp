@@ -62,12 +62,5 @@ TEST(SteppedYear, StopsAtTheEndsOf32Bits) {
     EXPECT_EQ(SteppedYear("-2147483647", -1), "-2147483648");
 }
 
-TEST(TrimmedBlanks, TakesBlanksAtBothEndsOnly) {
-    EXPECT_EQ(TrimmedBlanks("  a b  "), "a b");
-    EXPECT_EQ(TrimmedBlanks("   "), "");
-    EXPECT_EQ(TrimmedBlanks(""), "");
-    EXPECT_EQ(TrimmedBlanks("\ta "), "\ta");
-}
-
 }  // namespace
 }  // namespace calvoro

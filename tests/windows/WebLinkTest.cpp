@@ -60,6 +60,20 @@ INSTANTIATE_TEST_SUITE_P(
                     LaunchRow{"Negative", -3, kPage, "Error launching web browser, error code =-3."}),
     [](const testing::TestParamInfo<LaunchRow>& row) { return std::string(row.param.name); });
 
+TEST(OpenWebPage, TellsOfAFailureThatShowsLater) {
+    FakePlatform fake;
+    fake.web.results = {33};
+    OpenWebPage(fake.web, fake.boxes, kPage);
+    ASSERT_TRUE(fake.boxes.shown.empty());
+    fake.web.failLater(31);
+    const ShownMessage expected{
+        "Error launching web browser, error code = 31.\r\n\r\n"
+        "File extension 'html' is not associated with any application program.",
+        "Cannot launch web browser", MessageIcon::Exclamation};
+    ASSERT_EQ(fake.boxes.shown.size(), 1U);
+    EXPECT_EQ(fake.boxes.shown[0], expected);
+}
+
 std::string OpenedFor(std::string_view address) {
     FakePlatform fake;
     fake.web.results = {33};

@@ -1,13 +1,14 @@
 #include "windows/frmDisplayMonth.h"
 
+#include <QAbstractItemView>
 #include <QIcon>
 #include <QPixmap>
 #include <QScreen>
 #include <QSignalSpy>
 #include <utility>
 
-#include "platform/Twips.h"
 #include "tests/windows/MonthWindow.h"
+#include "windows/Twips.h"
 
 namespace calvoro {
 
@@ -153,6 +154,9 @@ private Q_SLOTS:
         QTest::keyClick(&month.Year(), Qt::Key_Enter);
         QCOMPARE(drawn(), 1);
         QTest::keyClick(&month.Months(), Qt::Key_Down);
+        QTest::keyClick(month.Months().view(), Qt::Key_Down);
+        QCOMPARE(drawn(), 0);
+        QTest::keyClick(month.Months().view(), Qt::Key_Return);
         QCOMPARE(drawn(), 1);
         QCOMPARE(month.ControlsTell(), QStringLiteral("October 2023"));
         ClickOnMark(month.Option("optJulian"));

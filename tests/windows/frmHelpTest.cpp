@@ -4,16 +4,16 @@
 #include <QScrollBar>
 #include <QTest>
 
-#include "platform/Twips.h"
 #include "tests/windows/WindowTesting.h"
 #include "windows/Placement.h"
+#include "windows/Twips.h"
 
 namespace calvoro {
 namespace {
 
-const HelpAddresses kAddresses = {"https://m.example/en", "https://m.example/de",
-                                  "https://m.example/calendars", "https://e.example/iso",
-                                  "https://m.example/leapweek"};
+const WebAddresses kAddresses = {"https://m.example/",    "https://m.example/en",
+                                 "https://m.example/de",  "https://m.example/calendars",
+                                 "https://e.example/iso", "https://m.example/leapweek"};
 
 struct HelpWindow {
     Texts texts;

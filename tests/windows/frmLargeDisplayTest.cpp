@@ -1,7 +1,10 @@
 #include "windows/frmLargeDisplay.h"
 
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QTextBlock>
+#include <QTextLayout>
 
 #include "tests/windows/LargeWindow.h"
 #include "windows/Placement.h"
@@ -212,6 +215,40 @@ private Q_SLOTS:
         for (int i = 0; i < 50; ++i) line += "\xC3\xA4";
         large.window.WidenDisplayIfNeeded(line, 150, 0.9);
         QCOMPARE(large.window.width(), 500);
+    }
+
+    void TheFrameCountsInWhatIsPlacedAndWidened() {
+        LargeWindow large;
+        const QRect screen = large.window.screen()->geometry();
+        const QSize frame(8, 30);
+        large.window.Place(QRect(20, 40, 450, 330), frame);
+        QCOMPARE(large.window.size(), QSize(442, 300));
+        QCOMPARE(large.window.pos(), QPoint(20, 40));
+        large.window.WidenDisplayIfNeeded(std::string(60, 'x'), 150, 0.9);
+        QCOMPARE(large.window.size(), QSize(592, 300));
+        QCOMPARE(large.window.pos(), QPoint(screen.left() + (screen.width() - 600) / 2, 40));
+    }
+
+    void ACharactersWidthIsItsShareOfAWindowThatShowsTheLineWhole_data() {
+        QTest::addColumn<int>("length");
+        for (const int length : {1, 40, 60, 61, 75, 80}) QTest::addRow("%d", length) << length;
+    }
+    void ACharactersWidthIsItsShareOfAWindowThatShowsTheLineWhole() {
+        QFETCH(const int, length);
+        LargeWindow large;
+        const std::string line(static_cast<std::size_t>(length), 'W');
+        std::string text = line;
+        for (int i = 0; i < 100; ++i) text += "\r\nx";
+        large.window.Output(text, 0, false);
+        large.window.WidenDisplayIfNeeded(line, large.window.CharacterWidth(line), 1.0);
+        large.Show();
+        QVERIFY(large.Box().verticalScrollBar()->isVisible());
+        QCOMPARE(large.Box().document()->firstBlock().layout()->lineCount(), 1);
+    }
+
+    void NoTextHasNoCharactersWidth() {
+        LargeWindow large;
+        QCOMPARE(large.window.CharacterWidth(""), std::int16_t{0});
     }
 
     void SpringsBackToItsLeastSize() {

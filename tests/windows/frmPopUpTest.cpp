@@ -4,8 +4,8 @@
 #include <QScreen>
 #include <functional>
 
-#include "platform/Twips.h"
 #include "tests/windows/WindowTesting.h"
+#include "windows/Twips.h"
 
 namespace calvoro {
 namespace {

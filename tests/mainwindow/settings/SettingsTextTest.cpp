@@ -1,23 +1,16 @@
-#include "mainwindow/SettingsFile.h"
+#include "mainwindow/settings/SettingsText.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
+#include <cstddef>
 #include <functional>
-#include <iterator>
+#include <optional>
 #include <ostream>
-#include <set>
 #include <string>
 #include <vector>
 
 namespace calvoro {
 namespace {
-
-namespace fs = std::filesystem;
 
 const std::string kFactoryText =
     "0\r\n2,45,44\r\n0,0,"
@@ -64,34 +57,6 @@ Settings FullSettings() {
     return settings;
 }
 
-class SettingsFolder : public testing::Test {
-protected:
-    void SetUp() override {
-        std::string name = (fs::temp_directory_path() / "calvoro-settings-XXXXXX").string();
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        folder_ = name;
-        path_ = (folder_ / "calvoro.usr").string();
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
-    std::string Content() const {
-        std::ifstream file(path_, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    void Put(std::string_view content) const {
-        std::ofstream(path_, std::ios::binary) << content;
-        ASSERT_EQ(Content(), content);
-    }
-    std::set<std::string> Names() const {
-        std::set<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder_)) names.insert(entry.path().filename());
-        return names;
-    }
-
-    fs::path folder_;
-    std::string path_;
-};
-
 // ---- writing
 
 TEST(SettingsText, WritesTheFactoryValues) {
@@ -102,17 +67,6 @@ TEST(SettingsText, WritesEveryField) {
     EXPECT_EQ(SettingsText(FullSettings()),
               "1\r\n1,46,0\r\n8,4,6\r\n1\r\n0\r\n0\r\n0\r\n1\r\n\"Mon\"\r\n\"JC\"\r\n"
               "\"2024075\"\r\n\"-10\"\r\n\"2024W053\"\r\n\"one\r\ntwo\r\n\"\r\n1\r\n");
-}
-
-TEST(SettingsText, LeavesTheTextsOutWhenTheyAreNotToBeSaved) {
-    Settings settings = FullSettings();
-    settings.saveOutput = false;
-    EXPECT_EQ(SettingsText(settings),
-              "1\r\n1,46,0\r\n8,4,6\r\n1\r\n0\r\n0\r\n0\r\n0\r\n\"Mon\"\r\n\"JC\"\r\n"
-              "\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n1\r\n");
-    const auto read = ParseSettingsText(SettingsText(settings));
-    settings.firstDate = settings.dateDiff = settings.secondDate = settings.output = "";
-    EXPECT_EQ(read, settings);
 }
 
 TEST(SettingsText, DoesNotEscapeQuotes) {
@@ -210,6 +164,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FieldRow{"IncludeFirstNumberAndLetters", 4, "1x", NoChange},
                     FieldRow{"IncludeFirstTwoNumbers", 4, "1,1", NoChange},
                     FieldRow{"IncludeFirstEmpty", 4, "", NoChange},
+                    FieldRow{"IncludeFirstTab", 4, "1\t", NoChange},
                     FieldRow{"IncludeFirstHuge", 4, "4294967297", NoChange},
                     FieldRow{"Weekends", 5, "0", [](Settings& s) { s.includeWeekends = false; }},
                     FieldRow{"WeekendsWord", 5, "x", [](Settings& s) { s.includeWeekends = false; }},
@@ -254,6 +209,12 @@ INSTANTIATE_TEST_SUITE_P(
                     FieldRow{"MonthsWithBlanks", 15, " 1 ",
                              [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }},
                     FieldRow{"Unknown", 15, "2", NoChange}, FieldRow{"Negative", 15, "-1", NoChange},
+                    FieldRow{"ALineAfterIt", 15, "1\r\nx",
+                             [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }},
+                    FieldRow{"ALineLikeItAfterIt", 15, "1\r\n0",
+                             [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }},
+                    FieldRow{"NoLineEndAfterItButBytes", 15, "1\r\n\xFF\"",
+                             [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }},
                     FieldRow{"EmptyLinesAfterIt", 15, "1\r\n\r\n",
                              [](Settings& s) { s.differenceUnit = DifferenceUnit::Months; }}),
     [](const auto& row) { return row.param.name; });
@@ -267,7 +228,41 @@ TEST(ParseSettingsText, ReadsLineFeedsAlone) {
     const auto read = ParseSettingsText(Joined(lines, "\n"));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->firstDate, "say \"a\"");
-    EXPECT_EQ(read->output, "one\ntwo\n");
+    EXPECT_EQ(read->output, "one\r\ntwo\r\n") << "what ends the lines of the file ends those of the output";
+}
+
+TEST(ParseSettingsText, ReadsALineFeedAmongOtherLineEnds) {
+    for (std::size_t line = 1; line <= 15; ++line) {
+        std::vector<std::string> lines = FactoryLines();
+        lines[8] = "\"Mon\"";
+        lines[10] = "\"2024-02-29\"";
+        lines[11] = "\"10\"";
+        lines[13] = "\"one\r\ntwo\r\n\"";
+        std::string text;
+        for (std::size_t i = 0; i < lines.size(); ++i) text += lines[i] + (i + 1 == line ? "\n" : "\r\n");
+        const auto read = ParseSettingsText(text);
+        ASSERT_TRUE(read) << "line " << line;
+        EXPECT_EQ(read->monthWeekStart, WeekStart::Monday) << "line " << line;
+        EXPECT_EQ(read->firstDate, "2024-02-29") << "line " << line;
+        EXPECT_EQ(read->dateDiff, "10") << "line " << line;
+        EXPECT_EQ(read->output, "one\r\ntwo\r\n") << "line " << line;
+    }
+}
+
+TEST(ParseSettingsText, KeepsLoneLineFeedsWhereLinesEndWithCrLf) {
+    Settings settings;
+    settings.firstDate = "\"\n\"";
+    settings.secondDate = "\n";
+    settings.output = "a\nb\r\n\n\"\n0\n\r";
+    EXPECT_EQ(ParseSettingsText(SettingsText(settings)), settings);
+}
+
+TEST(ParseSettingsText, IgnoresWhatStandsBehindTheLastLine) {
+    for (const char* behind : {"x", "\r\n", "0\r\n", "\"", "\"x\"\r\nx\r\n", "\n\n", "\xEF\xBB\xBF"}) {
+        EXPECT_EQ(ParseSettingsText(kFactoryText + behind), Settings{}) << behind;
+    }
+    EXPECT_EQ(ParseSettingsText(kFactoryText + std::string(1'000'000, '"')), Settings{});
+    EXPECT_EQ(ParseSettingsText(kFactoryText + std::string(1'000, '\0')), Settings{});
 }
 
 TEST(ParseSettingsText, NeedsNoLineEndAfterTheLastLine) {
@@ -329,7 +324,8 @@ INSTANTIATE_TEST_SUITE_P(
         DamageRow{"OutputQuoteAlone", 14, "\""}, DamageRow{"OutputWordAfter", 14, "\"a\" x"},
         DamageRow{"UnitLetters", 15, "days"}, DamageRow{"UnitEmpty", 15, ""},
         DamageRow{"UnitQuoted", 15, "\"0\""}, DamageRow{"UnitTwoFields", 15, "0,0"},
-        DamageRow{"UnitFollowedByALine", 15, "0\r\nx"}),
+        DamageRow{"LanguageTab", 1, "0\t"}, DamageRow{"UnitTab", 15, "\t0"},
+        DamageRow{"FormatsTab", 2, "2,\t45,44"}, DamageRow{"WeekStartTabAfter", 9, "\"Mon\"\t"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(ParseSettingsText, RefusesAFileWithoutOneOfItsLines) {
@@ -369,59 +365,6 @@ TEST(ParseSettingsText, IsNotSlowedDownByAMissingQuote) {
     std::string text = "0\n2,45,44\n0,0,0\n0\n1\n1\n1\n1\n\"Sun\"\n\"CE\"\n\"";
     text.append(10'000'000, '\n');
     EXPECT_EQ(ParseSettingsText(text), std::nullopt);
-}
-
-// ---- files
-
-TEST_F(SettingsFolder, MakesOneLevel) {
-    const std::string path = SettingsFilePath(folder_.string(), "Calvoro");
-    EXPECT_EQ(path, folder_.string() + "/Calvoro/calvoro.usr");
-    EXPECT_TRUE(fs::is_directory(folder_ / "Calvoro"));
-    EXPECT_TRUE(fs::is_empty(folder_ / "Calvoro"));
-    EXPECT_EQ(SettingsFilePath(folder_.string(), "Calvoro"), path) << "an existing folder is kept";
-
-    const std::string deep = SettingsFilePath((folder_ / "missing").string(), "Calvoro");
-    EXPECT_EQ(deep, folder_.string() + "/missing/Calvoro/calvoro.usr");
-    EXPECT_FALSE(fs::exists(folder_ / "missing"));
-    EXPECT_FALSE(WriteSettingsFile(deep, Settings{}));
-    EXPECT_EQ(ReadSettingsFile(deep), std::nullopt);
-}
-
-TEST_F(SettingsFolder, IsNowhereWithoutABase) {
-    const std::string path = SettingsFilePath("", "Calvoro");
-    EXPECT_EQ(path, "");
-    EXPECT_FALSE(WriteSettingsFile(path, Settings{}));
-    EXPECT_EQ(ReadSettingsFile(path), std::nullopt);
-}
-
-TEST_F(SettingsFolder, HoldsWhatWasWritten) {
-    ASSERT_TRUE(WriteSettingsFile(path_, FullSettings()));
-    EXPECT_EQ(Content(), SettingsText(FullSettings()));
-    EXPECT_EQ(ReadSettingsFile(path_), FullSettings());
-    ASSERT_TRUE(WriteSettingsFile(path_, Settings{}));
-    EXPECT_EQ(Content(), kFactoryText);
-    EXPECT_EQ(Names(), std::set<std::string>{"calvoro.usr"});
-}
-
-TEST_F(SettingsFolder, GivesNothingForAFileThatCannotBeRead) {
-    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "missing";
-    Put("");
-    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "empty";
-    fs::remove(path_);
-    fs::create_directory(path_);
-    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "a folder";
-    fs::remove(path_);
-    ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
-    EXPECT_EQ(ReadSettingsFile(path_), std::nullopt) << "a pipe, which must not be waited for";
-}
-
-TEST_F(SettingsFolder, DeletesTheFileWhetherItIsThereOrNot) {
-    Put(kFactoryText);
-    DeleteSettingsFile(path_);
-    EXPECT_TRUE(Names().empty());
-    DeleteSettingsFile(path_);
-    DeleteSettingsFile("");
-    EXPECT_TRUE(Names().empty());
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "mainwindow/SettingsFile.h"
+#include "mainwindow/settings/SettingsText.h"
 
 namespace calvoro {
 namespace {

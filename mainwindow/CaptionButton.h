@@ -1,3 +1,0 @@
-#pragma once
-
-#include "windows/CaptionButton.h"

@@ -1,0 +1,72 @@
+#include "windows/ScrollingPage.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include "windows/Placement.h"
+
+namespace calvoro {
+
+ScrollingPage::ScrollingPage(QWidget& window) : QScrollArea(&window) {
+    setObjectName(QStringLiteral("scrollingPage"));
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(new QWidget);
+    auto* fill = new QVBoxLayout(&window);
+    fill->setContentsMargins(0, 0, 0, 0);
+    fill->addWidget(this);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*old*/, const QWidget* focused) { ShowFocus(focused); });
+}
+
+// A control that goes with the page may have the focus, and says so after what is a ScrollingPage has gone.
+ScrollingPage::~ScrollingPage() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
+QSize ScrollingPage::sizeHint() const {
+    return AsRoomAllows(Page().sizeHint());
+}
+
+QSize ScrollingPage::minimumSizeHint() const {
+    const QSize least = Page().minimumSizeHint();
+    // Narrower than it would like only to be spared a scroll bar.
+    const int width = Page().sizeHint().width();
+    return AsRoomAllows(width <= RoomOnScreen(*window()).width() ? QSize(width, least.height()) : least);
+}
+
+bool ScrollingPage::eventFilter(QObject* watched, QEvent* event) {
+    // The page needs another size: so does the window. The layouts inside the page's own learn of it first.
+    if (watched == widget() && event->type() == QEvent::LayoutRequest && Page().layout() != nullptr) {
+        Page().layout()->activate();
+        updateGeometry();
+    }
+    return QScrollArea::eventFilter(watched, event);
+}
+
+// What has the focus is shown in one way, however it got it.
+bool ScrollingPage::focusNextPrevChild(bool next) {
+    return QWidget::focusNextPrevChild(next);
+}
+
+void ScrollingPage::ShowFocus(const QWidget* focused) {
+    if (focused == nullptr || !Page().isAncestorOf(focused)) return;
+    const QRect place(focused->mapTo(&Page(), QPoint()), focused->size());
+    constexpr int kMargin = 12;  // pixels of what stands around it
+    // Its far corner first, so that of a control larger than the window the beginning is seen.
+    ensureVisible(place.right(), place.bottom(), kMargin, kMargin);
+    ensureVisible(place.left(), place.top(), kMargin, kMargin);
+}
+
+QSize ScrollingPage::AsRoomAllows(QSize size) const {
+    const QSize room = RoomOnScreen(*window());
+    // What is cut off in one direction is reached by a scroll bar, which takes its room in the other.
+    if (size.height() > room.height()) size.rwidth() += verticalScrollBar()->sizeHint().width();
+    if (size.width() > room.width()) size.rheight() += horizontalScrollBar()->sizeHint().height();
+    return size.boundedTo(room);
+}
+
+}  // namespace calvoro
