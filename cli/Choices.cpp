@@ -8,10 +8,6 @@
 namespace calvoro {
 namespace {
 
-char LowerCase(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
 // The reader of dates drops what it does not know; here the form must be exact.
 bool HasFormOfToday(std::string_view text) {
     constexpr std::string_view kForm = "dddd-dd-dd";
@@ -22,9 +18,11 @@ bool HasFormOfToday(std::string_view text) {
 
 }  // namespace
 
-bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return LowerCase(x) == LowerCase(y); });
+std::string TakeDigitGrouping(std::string_view text, std::string& grouping) {
+    char separator = kNoSeparator;
+    const std::string reason = TakeChoice(kThousandsSeparatorChoices, text, NameCase::Any, separator);
+    if (reason.empty()) grouping = separator == kNoSeparator ? std::string() : std::string(1, separator);
+    return reason;
 }
 
 std::string TakeToday(std::string_view text, std::optional<LocalDate>& today) {

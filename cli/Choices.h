@@ -15,7 +15,9 @@
 #include "cli/ComputeRequest.h"
 #include "compute/ComputeOptions.h"
 #include "datetext/MonthText.h"
+#include "datetext/Tags.h"
 #include "datetext/TextOptions.h"
+#include "text/AsciiCase.h"
 #include "text/Language.h"
 
 namespace calvoro {
@@ -26,15 +28,14 @@ struct Choice {
     Value value;
 };
 
-inline constexpr std::array<Choice<CalendarNumber>, 7> kNotationChoices = {{
-    {"CE", CalendarNumber::CE},
-    {"ISO", CalendarNumber::ISO},
-    {"JC", CalendarNumber::JC},
-    {"ORD", CalendarNumber::ORD},
-    {"LPM", CalendarNumber::LPM},
-    {"LPW", CalendarNumber::LPW},
-    {"JDN", CalendarNumber::JDN},
-}};
+constexpr std::array<Choice<CalendarNumber>, kOfferedNotations.size()> MakeNotationChoices() {
+    std::array<Choice<CalendarNumber>, kOfferedNotations.size()> choices{};
+    for (std::size_t row = 0; row < choices.size(); ++row) {
+        choices[row] = {TagText(kOfferedNotations[row]), kOfferedNotations[row]};
+    }
+    return choices;
+}
+inline constexpr std::array kNotationChoices = MakeNotationChoices();
 inline constexpr std::array<Choice<DateFormat>, 3> kDateFormatChoices = {{
     {"YMD", DateFormat::YMD},
     {"DMY", DateFormat::DMY},
@@ -72,9 +73,6 @@ inline constexpr std::array<Choice<ClearAnswer>, 4> kClearChoices = {{
     {"second", ClearAnswer::SecondDate},
 }};
 
-/// Whether two names are the same but for the case of ASCII letters.
-bool EqualsIgnoringCase(std::string_view a, std::string_view b);
-
 enum class NameCase { Exact, Any };
 
 /// The value that has this name; nothing when none has.
@@ -106,6 +104,10 @@ std::string TakeChoice(const std::array<Choice<Value>, count>& choices, std::str
     }
     return reason;
 }
+
+/// Reads what groups the digits of leap-week years: ",", "." or "none", which is the empty text.
+/// returns  empty, or the reason to refuse it
+std::string TakeDigitGrouping(std::string_view text, std::string& grouping);
 
 /// Reads a date of the local calendar, written as four digits, "-", two digits, "-", two digits.
 /// returns  empty, or the reason to refuse it

@@ -1,21 +1,20 @@
 #include "cli/ComputeCommand.h"
 
-#include <unistd.h>
-
+#include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 
-#include "cli/Arguments.h"
 #include "cli/Diagnostics.h"
 #include "cli/ExitStatus.h"
 #include "cli/HeadlessWindow.h"
-#include "cli/HelpTexts.h"
 #include "cli/JsonLines.h"
 #include "cli/LineEnds.h"
 #include "cli/LineReader.h"
 #include "cli/OutputStream.h"
 #include "cli/Usage.h"
 #include "compute/ComputeClick.h"
+#include "platform/Streams.h"
 #include "platform/SystemClock.h"
 #include "text/BuiltInProgramTexts.h"
 #include "text/ProgramTextFile.h"
@@ -23,33 +22,52 @@
 namespace calvoro {
 namespace {
 
-int ComputeOnce(ComputeRequest request, Diagnostics& diagnostics) {
+// Why a click ended before it computed anything.
+std::string_view ReasonToStop(const HeadlessWindow& window) {
+    const bool hasDate =
+        !window.InputText(InputBox::FirstDate).empty() || !window.InputText(InputBox::SecondDate).empty();
+    return hasDate ? "nothing computed: all three boxes are filled; choose with --clear which one to empty"
+                   : "nothing computed: a date is missing";
+}
+
+int ComputeOnce(const ComputeRequest& request, Diagnostics& diagnostics) {
     const SystemClock clock;
-    HeadlessWindow window(std::move(request), clock);
+    HeadlessWindow window(request, clock);
     ComputeState state;
     const ClickOutcome outcome = cmdCompute_Click(window, state);
-    for (const ShownMessage& message : window.Messages()) {
-        diagnostics.PrintLine(message.title + " " + OnOneLine(message.text));
-    }
-    OutputStream output(STDOUT_FILENO);
+    for (const ShownMessage& message : window.Messages()) diagnostics.Print(OnOneLine(message.text));
+    if (outcome == ClickOutcome::Stopped) diagnostics.Print(ReasonToStop(window));
+    OutputStream output(kStandardOutput);
     // A failed computation ends its line although nothing stands in it; an empty line is no result.
     if (window.Output() != "\r\n") output.Append(WithLineFeeds(window.Output()));
-    return FinishOutput(output, outcome == ClickOutcome::Result ? kExitAllGood : kExitRefused, diagnostics);
+    const bool hasResult = outcome == ClickOutcome::Result && !LacksItsResult(window.Output());
+    return FinishOutput(output, hasResult ? kExitAllGood : kExitRefused, diagnostics);
+}
+
+int AnswerOnceInJson(const ComputeRequest& request, Diagnostics& diagnostics) {
+    std::string response;
+    AnswerRequest(request, SystemClock(), response);
+    OutputStream output(kStandardOutput);
+    output.Append(response);
+    output.Append('\n');
+    return FinishOutput(output, kExitAllGood, diagnostics);
 }
 
 int AnswerJsonLines(Diagnostics& diagnostics) {
     const SystemClock clock;
-    OutputStream output(STDOUT_FILENO);
-    LineReader reader(STDIN_FILENO, output);
+    OutputStream output(kStandardOutput);
+    LineReader reader(kStandardInput, output);
     int status = kExitAllGood;
     std::string_view line;
     std::string response;
+    std::uint64_t number = 0;
     while (!output.HasFailed() && reader.Next(line)) {
         response.clear();
+        ++number;
         if (reader.IsCut()) {
-            AppendJsonFault("request: longer than a line may be", response);
+            AppendJsonFault("request: longer than a line may be", number, response);
             status = kExitRefused;
-        } else if (!AnswerJsonLine(line, clock, response)) {
+        } else if (!AnswerJsonLine(line, number, clock, response)) {
             status = kExitRefused;
         }
         response += '\n';
@@ -64,15 +82,12 @@ int AnswerJsonLines(Diagnostics& diagnostics) {
 
 }  // namespace
 
-int RunCompute(const std::vector<std::string>& words) {
-    ComputeArguments arguments;
-    const ArgumentsOutcome outcome = ReadComputeArguments(words, arguments);
-    if (!outcome.Runs()) return AnswerUsage(outcome, "compute", kComputeHelp);
-
+int RunCompute(const ComputeArguments& arguments) {
     LoadProgramTextsFromMemory(BuiltInProgramTexts());
-    Diagnostics diagnostics(STDERR_FILENO);
-    if (arguments.json) return AnswerJsonLines(diagnostics);
-    return ComputeOnce(std::move(arguments.request), diagnostics);
+    Diagnostics diagnostics(kStandardError);
+    if (arguments.jsonLines) return AnswerJsonLines(diagnostics);
+    if (arguments.json) return AnswerOnceInJson(arguments.request, diagnostics);
+    return ComputeOnce(arguments.request, diagnostics);
 }
 
 }  // namespace calvoro

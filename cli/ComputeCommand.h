@@ -1,13 +1,11 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include "cli/arguments/ComputeArguments.h"
 
 namespace calvoro {
 
 /// `calvoro-cli compute`: one Compute click told by options, or one for every line of JSON.
-/// words    the arguments behind the command's name
 /// returns  the exit status
-int RunCompute(const std::vector<std::string>& words);
+int RunCompute(const ComputeArguments& arguments);
 
 }  // namespace calvoro

@@ -1,86 +1,50 @@
 #include "cli/Conversion.h"
 
-#include <cstdint>
-#include <string>
-#include <utility>
-
-#include "calendar/CheckedInt.h"
-#include "calendar/DateRecord.h"
-#include "calendar/Weekday.h"
-#include "cli/QuickDate.h"
-#include "datetext/AnyNotation.h"
 #include "datetext/Tags.h"
-#include "text/DateNames.h"
 
 namespace calvoro {
-namespace {
-
-void AppendCsvField(std::string_view field, OutputStream& output) {
-    if (field.find_first_of(",\"\r\n") == std::string_view::npos) return output.Append(field);
-    output.Append('"');
-    for (const char character : field) {
-        if (character == '"') output.Append('"');
-        output.Append(character);
-    }
-    output.Append('"');
-}
-
-}  // namespace
 
 Conversion::Conversion(const ConvertOptions& options)
-    : options_(options), readsQuickShape_(HasQuickShape(options.from, options.text)) {
-    for (const CalendarNumber target : options.targets) {
-        std::string suffix = options.tag ? " " + std::string(TagText(target)) : std::string();
-        targets_.push_back({target, HasQuickShape(target, options.text), std::move(suffix)});
-    }
-}
+    : reader_(options.from, options.reading, options.text), writer_(options) {}
 
-ConversionOutcome Conversion::Convert(std::string_view text, OutputStream& output) const {
-    std::int32_t jdn = 0;
-    switch (ReadDay(text, jdn)) {
-        case ParseStatus::Valid: break;
-        case ParseStatus::NotValid: return {Refusal::NotValid, options_.from};
-        case ParseStatus::OutOfRange: return {Refusal::OutOfRange, options_.from};
-    }
-    if (!options_.emptyWhereUnwritable) {
-        for (const Target& target : targets_) {
-            if (!CanWriteDate(target.notation, jdn)) return {Refusal::OutOfRange, target.notation};
-        }
-    }
-    bool isFirst = true;
-    for (const Target& target : targets_) {
-        if (!isFirst) output.Append(options_.csv ? ',' : '\t');
-        isFirst = false;
-        AppendDate(target, jdn, output);
-    }
-    if (options_.weekday) {
-        output.Append(options_.csv ? ',' : '\t');
-        output.Append(WeekdayName(LanguageEnglish, euro_day_of_week(jdn)));
-    }
+std::string Conversion::Convert(std::string_view text, OutputStream& output) const {
+    const AutoResult answer = reader_.Read(text);
+    if (answer.result.status != ParseStatus::Valid) return RefusalText(answer, text);
+    const std::int32_t jdn = answer.result.jdn;
+    if (!writer_.CanWrite(jdn)) return "out of range in " + std::string(TagText(*writer_.FirstUnable(jdn)));
+
+    output.AppendWith(writer_.Room(), [&](char* to) { return writer_.Write(jdn, to); });
     return {};
 }
 
-ParseStatus Conversion::ReadDay(std::string_view text, std::int32_t& jdn) const {
-    if (readsQuickShape_ && ReadQuickDate(text, options_.from, jdn)) return ParseStatus::Valid;
-    try {
-        DateRecord record;
-        const ParseStatus status = ReadDate(options_.from, text, options_.text, record);
-        jdn = record.jdn;
-        return status;
-    } catch (const ArithmeticOverflow&) {
-        return ParseStatus::OutOfRange;
-    }
-}
-
-void Conversion::AppendDate(const Target& target, std::int32_t jdn, OutputStream& output) const {
-    if (target.hasQuickShape && WriteQuickDate(target.notation, jdn, output.Room(kQuickDateLength))) {
-        output.Commit(kQuickDateLength);
-        output.Append(target.suffix);
-    } else if (CanWriteDate(target.notation, jdn)) {
-        const std::string date = WriteDate(target.notation, jdn, options_.text) + target.suffix;
-        if (options_.csv) return AppendCsvField(date, output);
-        output.Append(date);
-    }
+std::size_t Conversion::ConvertLines(std::string_view block, OutputStream& output,
+                                     std::uint64_t& lines) const {
+    const std::size_t room = writer_.Room() + 1;
+    if (room > OutputStream::kBlockSize) return 0;
+    const char* at = block.data();
+    const char* const end = at + block.size();
+    std::size_t length = 0;
+    do {
+        // As many lines as fit what is free.
+        char* const begin = output.Room(room);
+        char* const last = begin + (output.Free() - room);
+        char* to = begin;
+        do {
+            std::int32_t jdn = 0;
+            length =
+                static_cast<std::size_t>(end - at) < DayReader::kLineRoom ? 0 : reader_.ReadLine(at, jdn);
+            if (length == 0 || !writer_.CanWrite(jdn)) {
+                length = 0;
+                break;
+            }
+            to = writer_.Write(jdn, to);
+            *to++ = '\n';
+            at += length;
+            ++lines;
+        } while (to <= last);
+        output.Commit(static_cast<std::size_t>(to - begin));
+    } while (length > 0);
+    return static_cast<std::size_t>(at - block.data());
 }
 
 }  // namespace calvoro

@@ -2,58 +2,36 @@
 
 // One typed date into the fields of one output line.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "calendar/CalendarNumber.h"
+#include "cli/ConvertOptions.h"
+#include "cli/DayReader.h"
 #include "cli/OutputStream.h"
-#include "datetext/ParseStatus.h"
-#include "datetext/TextOptions.h"
+#include "cli/RecordWriter.h"
 
 namespace calvoro {
-
-struct ConvertOptions {
-    CalendarNumber from = CalendarNumber::CE;
-    std::vector<CalendarNumber> targets;
-    bool emptyWhereUnwritable = false;  // a day that a target cannot write gets an empty field, no refusal
-    TextOptions text;
-    bool tag = false;      // behind every date its tag
-    bool weekday = false;  // a last field with the English weekday
-    bool csv = false;      // commas and quotes instead of tabs
-};
-
-enum class Refusal { None, NotValid, OutOfRange };
-
-/// What became of one text; a refusal names the notation that could not read or write it.
-struct ConversionOutcome {
-    Refusal refusal = Refusal::None;
-    CalendarNumber notation = CalendarNumber::CE;
-};
 
 /// A conversion made ready for many dates.
 class Conversion {
 public:
-    /// options  must outlive the conversion
     explicit Conversion(const ConvertOptions& options);
 
     /// Appends the fields of a date to the output, without a line end; nothing when it is refused.
-    ConversionOutcome Convert(std::string_view text, OutputStream& output) const;
+    /// returns  empty, or why the date is refused, to stand in front of it: "not valid in CE, empty"
+    std::string Convert(std::string_view text, OutputStream& output) const;
+
+    /// Converts the first lines of a block as long as they are plain dates in their usual form, which most
+    /// are, each into a line of the output.
+    /// lines    is moved on by the number of lines
+    /// returns  how many bytes of the block they are; whatever comes next is left to Convert
+    std::size_t ConvertLines(std::string_view block, OutputStream& output, std::uint64_t& lines) const;
 
 private:
-    struct Target {
-        CalendarNumber notation;
-        bool hasQuickShape;
-        std::string suffix;  // a blank and the tag, or nothing
-    };
-
-    ParseStatus ReadDay(std::string_view text, std::int32_t& jdn) const;
-    void AppendDate(const Target& target, std::int32_t jdn, OutputStream& output) const;
-
-    const ConvertOptions& options_;
-    bool readsQuickShape_;
-    std::vector<Target> targets_;
+    DayReader reader_;
+    RecordWriter writer_;
 };
 
 }  // namespace calvoro

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include "cli/arguments/ConvertArguments.h"
 
 namespace calvoro {
 
 /// `calvoro-cli convert`: dates of the arguments or lines of the input, one output line each.
-/// words    the arguments behind the command's name
 /// returns  the exit status
-int RunConvert(const std::vector<std::string>& words);
+int RunConvert(const ConvertArguments& arguments);
 
 }  // namespace calvoro

@@ -1,35 +1,21 @@
 #include "cli/Diagnostics.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <string>
+
+#include "platform/Streams.h"
+#include "platform/WriteAll.h"
 
 namespace calvoro {
 namespace {
 
 constexpr std::string_view kWipeLine = "\r\x1B[K";
 
-void WriteAll(int descriptor, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = write(descriptor, text.data(), text.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written <= 0) return;
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-}
-
 }  // namespace
 
-void Diagnostics::PrintLine(std::string_view line) {
-    Wipe();
-    WriteAll(descriptor_, std::string(line) + "\n");
-}
-
 void Diagnostics::Print(std::string_view message) {
-    PrintLine("calvoro-cli: " + std::string(message));
+    Wipe();
+    WriteAll(descriptor_, "calvoro-cli: " + std::string(message) + "\n");
 }
 
 void Diagnostics::BeginProgress(std::uint64_t total, std::chrono::milliseconds interval) {
@@ -61,10 +47,7 @@ void Diagnostics::Wipe() {
 }
 
 std::uint64_t SizeForProgress(int input, int results, int messages) {
-    struct stat status {};
-    if (isatty(messages) == 0 || isatty(results) != 0) return 0;
-    if (fstat(input, &status) != 0 || !S_ISREG(status.st_mode)) return 0;
-    return static_cast<std::uint64_t>(status.st_size);
+    return IsTerminal(messages) && !IsTerminal(results) ? SizeOfFile(input) : 0;
 }
 
 }  // namespace calvoro

@@ -18,10 +18,7 @@ public:
     Diagnostics& operator=(const Diagnostics&) = delete;
     ~Diagnostics() { EndProgress(); }
 
-    /// Prints a line of its own; failures are ignored, as there is nobody left to tell.
-    void PrintLine(std::string_view line);
-
-    /// Prints "calvoro-cli: ..." on a line of its own.
+    /// Prints "calvoro-cli: ..." on a line of its own; failures are ignored, as there is nobody left to tell.
     void Print(std::string_view message);
 
     /// Lets ShowProgress draw from now on.

@@ -19,6 +19,10 @@ std::string ComputeRequest::*BoxMember(InputBox box) {
 
 }  // namespace
 
+bool LacksItsResult(std::string_view output) {
+    return output.ends_with(" = \r\n");
+}
+
 HeadlessWindow::HeadlessWindow(ComputeRequest request, const Clock& clock)
     : request_(std::move(request)), clock_(clock) {}
 

@@ -17,6 +17,10 @@ struct ShownMessage {
     std::string text;
 };
 
+/// Whether an output ends with a result line that lacks its result: an ordinal date out of range leaves its
+/// " = " standing.
+bool LacksItsResult(std::string_view output);
+
 class HeadlessWindow final : public ComputeWindow {
 public:
     /// clock  asked only when today is needed and the request does not tell it

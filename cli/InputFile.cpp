@@ -1,27 +1,22 @@
 #include "cli/InputFile.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
-
-#include "cli/QuotedText.h"
+#include "datetext/PrintableText.h"
+#include "platform/Streams.h"
 
 namespace calvoro {
 
 InputFile::InputFile(const std::string& name) {
     if (name == "-") {
-        descriptor_ = STDIN_FILENO;
+        descriptor_ = kStandardInput;
         shownName_ = "stdin";
         return;
     }
     shownName_ = PrintableText(name);
-    descriptor_ = open(name.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor_ < 0) error_ = errno;
+    descriptor_ = OpenForReading(name, error_);
 }
 
 InputFile::~InputFile() {
-    if (descriptor_ > STDIN_FILENO) close(descriptor_);
+    if (descriptor_ > kStandardInput) CloseDescriptor(descriptor_);
 }
 
 }  // namespace calvoro

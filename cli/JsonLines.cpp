@@ -1,10 +1,9 @@
 #include "cli/JsonLines.h"
 
-#include <utility>
-
 #include "cli/ComputeRequest.h"
 #include "cli/HeadlessWindow.h"
 #include "cli/JsonRequest.h"
+#include "cli/JsonValue.h"
 #include "compute/ComputeClick.h"
 
 namespace calvoro {
@@ -64,14 +63,19 @@ std::string_view ResultWord(ClickOutcome outcome) {
 
 }  // namespace
 
-bool AnswerJsonLine(std::string_view line, const Clock& clock, std::string& response) {
+bool AnswerJsonLine(std::string_view line, std::uint64_t number, const Clock& clock, std::string& response) {
     ComputeRequest request;
     const std::string fault = ReadJsonRequest(line, request);
     if (!fault.empty()) {
-        AppendJsonFault(fault, response);
+        AppendJsonFault(fault, number, response);
         return false;
     }
-    HeadlessWindow window(std::move(request), clock);
+    AnswerRequest(request, clock, response);
+    return true;
+}
+
+void AnswerRequest(const ComputeRequest& request, const Clock& clock, std::string& response) {
+    HeadlessWindow window(request, clock);
     ComputeState state;
     const ClickOutcome outcome = cmdCompute_Click(window, state);
     AppendMember("{\"first\":", window.InputText(InputBox::FirstDate), response);
@@ -81,13 +85,14 @@ bool AnswerJsonLine(std::string_view line, const Clock& clock, std::string& resp
     response += ",\"messages\":[";
     AppendMessages(window.Messages(), response);
     response += window.Unit() == DifferenceUnit::Days ? "],\"unit\":\"days\"" : "],\"unit\":\"months\"";
-    response.append(",\"result\":").append(ResultWord(outcome)) += '}';
-    return true;
+    response.append(",\"result\":").append(ResultWord(outcome)).append(",\"value\":");
+    AppendJsonValue(outcome, window, state, response);
+    response += '}';
 }
 
-void AppendJsonFault(std::string_view fault, std::string& response) {
+void AppendJsonFault(std::string_view fault, std::uint64_t number, std::string& response) {
     AppendMember("{\"error\":", fault, response);
-    response += '}';
+    response.append(",\"line\":").append(std::to_string(number)) += '}';
 }
 
 }  // namespace calvoro

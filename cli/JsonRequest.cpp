@@ -7,7 +7,8 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/Choices.h"
-#include "cli/QuotedText.h"
+#include "datetext/PrintableText.h"
+#include "datetext/Utf8.h"
 
 namespace calvoro {
 namespace {
@@ -33,7 +34,7 @@ std::string TakeBox(std::string& box, std::string& text) {
 }
 
 using Request = ComputeRequest;
-constexpr std::array<KeyRow, 16> kKeys = {{
+constexpr std::array<KeyRow, 17> kKeys = {{
     {"first", [](Request& request, std::string& text) { return TakeBox(request.first, text); }, nullptr},
     {"difference", [](Request& request, std::string& text) { return TakeBox(request.difference, text); },
      nullptr},
@@ -63,6 +64,14 @@ constexpr std::array<KeyRow, 16> kKeys = {{
          return TakeName(kJsonThousandsChoices, text, request.options.text.thousandsSeparator);
      },
      nullptr},
+    {"digit_grouping",
+     [](Request& request, std::string& text) {
+         char separator = kNoSeparator;
+         std::string reason = TakeName(kJsonThousandsChoices, text, separator);
+         if (reason.empty()) request.options.text.digitGrouping = std::move(text);
+         return reason;
+     },
+     nullptr},
     {"hyphen", nullptr, [](Request& request, bool truth) { request.options.text.hyphen = truth; }},
     {"verbose", nullptr, [](Request& request, bool truth) { request.options.verbose = truth; }},
     {"include_first_date", nullptr,
@@ -82,6 +91,11 @@ constexpr std::array<KeyRow, 16> kKeys = {{
      nullptr},
     {"today", [](Request& request, std::string& text) { return TakeToday(text, request.today); }, nullptr},
 }};
+
+// position  in bytes, from 1
+std::string NotJsonAt(std::size_t position) {
+    return "request: not valid JSON at byte " + std::to_string(position);
+}
 
 /// Takes the events of the JSON reader. Every event returns whether reading goes on; it ends with the first
 /// fault.
@@ -128,8 +142,10 @@ public:
     bool binary(const nlohmann::json::binary_t& /*bytes*/) { return RefuseType(); }
 
     bool parse_error(std::size_t position, const std::string& /*lastToken*/,
-                     const nlohmann::json::exception& /*error*/) {
-        return Refuse("request: not valid JSON at byte " + std::to_string(position));
+                     const nlohmann::json::exception& error) {
+        constexpr int kNumberOutOfRange = 406;  // which makes it no less a number
+        if (error.id == kNumberOutOfRange) return RefuseType();
+        return Refuse(NotJsonAt(position));
     }
 
 private:
@@ -157,8 +173,12 @@ private:
 std::string ReadJsonRequest(std::string_view line, ComputeRequest& request) {
     if (line.empty()) return "request: empty line";
     if (!IsUtf8(line)) return "request: not valid UTF-8";
+    // The library skips a byte order mark at the start of every text, and takes a NUL for its end.
+    if (line.starts_with(kByteOrderMark)) return NotJsonAt(1);
     RequestBuilder builder(request);
     nlohmann::json::sax_parse(line.begin(), line.end(), &builder);
+    const std::size_t nul = line.find('\0');
+    if (builder.Fault().empty() && nul != std::string_view::npos) return NotJsonAt(nul + 1);
     return builder.Fault();
 }
 

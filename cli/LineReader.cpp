@@ -1,21 +1,15 @@
 #include "cli/LineReader.h"
 
-#include <poll.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <cstring>
+
+#include "datetext/Utf8.h"
+#include "platform/Streams.h"
 
 namespace calvoro {
 namespace {
 
 constexpr std::size_t kFirstCapacity = std::size_t{128} * 1024;
 static_assert(kFirstCapacity <= LineReader::kMaxLineLength);
-
-bool WouldWait(int descriptor) {
-    pollfd question{descriptor, POLLIN, 0};
-    return poll(&question, 1, 0) == 0;
-}
 
 char* FindLineFeed(char* begin, char* end) {
     return static_cast<char*>(std::memchr(begin, '\n', static_cast<std::size_t>(end - begin)));
@@ -39,12 +33,54 @@ bool LineReader::Next(std::string_view& line) {
     return true;
 }
 
-// Everything between begin_ and end_ has been searched already.
+// Nothing has been read yet. What could be the beginning of a mark is not judged before the rest of it, or
+// the end of the input, is there.
+void LineReader::SkipByteOrderMark() {
+    atStart_ = false;
+    const auto read = [this] { return std::string_view(begin_, static_cast<std::size_t>(end_ - begin_)); };
+    while (read().size() < kByteOrderMark.size() && kByteOrderMark.starts_with(read())) {
+        if (!Refill()) return;
+    }
+    if (read().starts_with(kByteOrderMark)) begin_ += kByteOrderMark.size();
+}
+
 bool LineReader::NextAfterRefill(std::string_view& line) {
+    if (atStart_) {
+        SkipByteOrderMark();
+        return Next(line);
+    }
+    return TakeLine(static_cast<std::size_t>(end_ - begin_), line);
+}
+
+bool LineReader::Join(std::string_view& line) {
+    if (cut_) return false;
+    const std::size_t searched = static_cast<std::size_t>(begin_ - line.data());
+    if (begin_ == end_) {
+        begin_ -= searched;
+        const bool more = Refill();
+        line = {begin_, line.size()};
+        if (!more) {
+            begin_ += searched;
+            return false;
+        }
+    } else {
+        begin_ -= searched;
+    }
+    return TakeLine(searched, line);
+}
+
+// Gives the line at begin_, whose first `searched` bytes do not end it.
+bool LineReader::TakeLine(std::size_t searched, std::string_view& line) {
     for (;;) {
-        const std::ptrdiff_t searched = end_ - begin_;
+        char* const lineFeed = FindLineFeed(begin_ + searched, end_);
+        if (lineFeed != nullptr) {
+            line = TakeUpTo(lineFeed);
+            begin_ = lineFeed + 1;
+            return true;
+        }
+        searched = static_cast<std::size_t>(end_ - begin_);
         // The last byte may be the CR of the line's end.
-        if (static_cast<std::size_t>(searched) > kMaxLineLength + 1) {
+        if (searched > kMaxLineLength + 1) {
             line = {begin_, kMaxLineLength};
             cut_ = true;
             SkipRestOfLine();
@@ -56,11 +92,6 @@ bool LineReader::NextAfterRefill(std::string_view& line) {
             begin_ = end_;
             return true;
         }
-        char* const lineFeed = FindLineFeed(begin_ + searched, end_);
-        if (lineFeed == nullptr) continue;
-        line = TakeUpTo(lineFeed);
-        begin_ = lineFeed + 1;
-        return true;
     }
 }
 
@@ -101,17 +132,10 @@ void LineReader::SkipRestOfLine() {
 std::size_t LineReader::ReadBlock(char* to, std::size_t size) {
     if (atEnd_) return 0;
     if (WouldWait(descriptor_)) answers_.Flush();
-    for (;;) {
-        const ssize_t got = read(descriptor_, to, size);
-        if (got > 0) {
-            bytesRead_ += static_cast<std::uint64_t>(got);
-            return static_cast<std::size_t>(got);
-        }
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0) error_ = errno;
-        atEnd_ = true;
-        return 0;
-    }
+    const std::size_t got = ReadSome(descriptor_, to, size, error_);
+    bytesRead_ += got;
+    atEnd_ = got == 0;
+    return got;
 }
 
 std::string_view LineReader::TakeUpTo(const char* end) {

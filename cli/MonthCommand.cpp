@@ -1,33 +1,29 @@
 #include "cli/MonthCommand.h"
 
-#include <unistd.h>
-
 #include <charconv>
 #include <optional>
 #include <string_view>
 #include <system_error>
 
 #include "calendar/CheckedInt.h"
-#include "cli/Arguments.h"
 #include "cli/Diagnostics.h"
 #include "cli/ExitStatus.h"
-#include "cli/HelpTexts.h"
 #include "cli/LineEnds.h"
 #include "cli/OutputStream.h"
-#include "cli/QuotedText.h"
 #include "cli/Usage.h"
 #include "datetext/MonthText.h"
+#include "datetext/PrintableText.h"
+#include "platform/Streams.h"
 #include "platform/SystemClock.h"
 #include "text/BuiltInProgramTexts.h"
 #include "text/DateNames.h"
 #include "text/NamedTexts.h"
+#include "text/NumberedTexts.h"
 #include "text/ProgramText.h"
 #include "text/ProgramTextFile.h"
 
 namespace calvoro {
 namespace {
-
-constexpr std::int16_t kIsoHeadingText = 13;
 
 enum class MonthStatus { Valid, NotValid, OutOfRange };
 
@@ -76,12 +72,8 @@ std::string MonthPage(const YearMonth& shown, const MonthArguments& arguments) {
 
 }  // namespace
 
-int RunMonth(const std::vector<std::string>& words) {
-    MonthArguments arguments;
-    const ArgumentsOutcome outcome = ReadMonthArguments(words, arguments);
-    if (!outcome.Runs()) return AnswerUsage(outcome, "month", kMonthHelp);
-
-    Diagnostics diagnostics(STDERR_FILENO);
+int RunMonth(const MonthArguments& arguments) {
+    Diagnostics diagnostics(kStandardError);
     YearMonth shown;
     MonthStatus status = MonthStatus::Valid;
     if (arguments.yearMonth) {
@@ -92,7 +84,7 @@ int RunMonth(const std::vector<std::string>& words) {
     }
     if (status == MonthStatus::Valid) {
         try {
-            OutputStream output(STDOUT_FILENO);
+            OutputStream output(kStandardOutput);
             output.Append(WithLineFeeds(MonthPage(shown, arguments)));
             output.Append('\n');
             return FinishOutput(output, kExitAllGood, diagnostics);

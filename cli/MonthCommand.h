@@ -1,13 +1,11 @@
 #pragma once
 
-#include <string>
-#include <vector>
+#include "cli/arguments/MonthArguments.h"
 
 namespace calvoro {
 
 /// `calvoro-cli month`: the text that the month window copies.
-/// words    the arguments behind the command's name
 /// returns  the exit status
-int RunMonth(const std::vector<std::string>& words);
+int RunMonth(const MonthArguments& arguments);
 
 }  // namespace calvoro

@@ -1,8 +1,6 @@
 #include "cli/OutputStream.h"
 
-#include <unistd.h>
-
-#include <cerrno>
+#include "platform/WriteAll.h"
 
 namespace calvoro {
 
@@ -21,14 +19,7 @@ void OutputStream::AppendLong(std::string_view text) {
 }
 
 void OutputStream::Write(std::string_view text) {
-    while (!text.empty() && error_ == 0) {
-        const ssize_t written = write(descriptor_, text.data(), text.size());
-        if (written >= 0) {
-            text.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
-            error_ = errno;
-        }
-    }
+    if (error_ == 0) error_ = WriteAll(descriptor_, text);
 }
 
 }  // namespace calvoro

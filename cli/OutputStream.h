@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace calvoro {
@@ -33,6 +34,23 @@ public:
         return block_.get() + used_;
     }
     void Commit(std::size_t size) { used_ += size; }
+
+    /// How many bytes may be written at Room before anything has to be handed to the system.
+    std::size_t Free() const { return kBlockSize - used_; }
+
+    /// Adds what a function writes, in place when the block has the room.
+    /// room   most bytes that it writes
+    /// write  is given where to write; returns behind the last character written
+    template <typename Write>
+    void AppendWith(std::size_t room, const Write& write) {
+        if (room <= kBlockSize) {
+            char* const to = Room(room);
+            return Commit(static_cast<std::size_t>(write(to) - to));
+        }
+        std::string text(room, '\0');
+        text.resize(static_cast<std::size_t>(write(text.data()) - text.data()));
+        Append(text);
+    }
 
     /// Hands everything gathered to the system.
     void Flush();

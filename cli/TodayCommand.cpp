@@ -1,19 +1,16 @@
 #include "cli/TodayCommand.h"
 
-#include <unistd.h>
-
 #include <cstdint>
 
 #include "calendar/Today.h"
-#include "cli/Arguments.h"
 #include "cli/Diagnostics.h"
 #include "cli/ExitStatus.h"
-#include "cli/HelpTexts.h"
 #include "cli/OutputStream.h"
 #include "cli/Usage.h"
 #include "datetext/AnyNotation.h"
 #include "datetext/TextOptions.h"
 #include "datetext/TodayText.h"
+#include "platform/Streams.h"
 #include "platform/SystemClock.h"
 #include "text/DateNames.h"
 #include "text/NamedTexts.h"
@@ -35,12 +32,8 @@ void AppendLabels(std::int32_t todayJdn, CalendarNumber calendar, LanguageNumber
 
 }  // namespace
 
-int RunToday(const std::vector<std::string>& words) {
-    TodayArguments arguments;
-    const ArgumentsOutcome outcome = ReadTodayArguments(words, arguments);
-    if (!outcome.Runs()) return AnswerUsage(outcome, "today", kTodayHelp);
-
-    OutputStream output(STDOUT_FILENO);
+int RunToday(const TodayArguments& arguments) {
+    OutputStream output(kStandardOutput);
     const std::int32_t todayJdn = TodayJdn(arguments.today ? *arguments.today : SystemClock().Today());
     if (arguments.all) {
         for (const Notation& notation : Notations()) {
@@ -49,7 +42,7 @@ int RunToday(const std::vector<std::string>& words) {
     } else {
         AppendLabels(todayJdn, arguments.calendar, arguments.language, output);
     }
-    Diagnostics diagnostics(STDERR_FILENO);
+    Diagnostics diagnostics(kStandardError);
     return FinishOutput(output, kExitAllGood, diagnostics);
 }
 

@@ -1,20 +1,13 @@
 #pragma once
 
-// How every command ends: with its help, with a complaint about its arguments, or with its output handed to
-// the system.
+// How every command ends: with its output handed to the system, or with what the system says against it.
 
 #include <string_view>
 
-#include "cli/Arguments.h"
 #include "cli/Diagnostics.h"
 #include "cli/OutputStream.h"
 
 namespace calvoro {
-
-/// Prints the help or the version that was asked for, or the fault of the arguments and where to find help.
-/// command  the command's name; empty for the program itself
-/// returns  the exit status
-int AnswerUsage(const ArgumentsOutcome& outcome, std::string_view command, std::string_view help);
 
 /// Prints what the system says about an error of its own: "nosuch: No such file or directory".
 void PrintSystemError(std::string_view what, int error, Diagnostics& diagnostics);

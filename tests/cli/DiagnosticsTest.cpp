@@ -18,8 +18,8 @@ TEST(Diagnostics, PrintsMessagesOneALine) {
     const TemporaryFile messages;
     Diagnostics diagnostics(messages.Number());
     diagnostics.Print("something");
-    diagnostics.PrintLine("Error! else");
-    EXPECT_EQ(messages.Contents(), "calvoro-cli: something\nError! else\n");
+    diagnostics.Print("something else");
+    EXPECT_EQ(messages.Contents(), "calvoro-cli: something\ncalvoro-cli: something else\n");
 }
 
 TEST(Diagnostics, PrintOnWhenASignalInterruptsThem) {
@@ -31,10 +31,10 @@ TEST(Diagnostics, PrintOnWhenASignalInterruptsThem) {
         Interruptions::Await(20);
         received = pipe.ReadToTheEnd();
     });
-    Diagnostics(pipe.writing.Number()).PrintLine(message);
+    Diagnostics(pipe.writing.Number()).Print(message);
     pipe.writing.Close();
     reader.join();
-    EXPECT_TRUE(received == message + "\n");
+    EXPECT_TRUE(received == "calvoro-cli: " + message + "\n");
 }
 
 TEST(Diagnostics, DrawsTheShareReadOverTheLastDrawing) {
@@ -61,11 +61,12 @@ TEST(Diagnostics, WipesTheDrawingBeforeAMessageAndAtTheEnd) {
         Diagnostics diagnostics(messages.Number());
         diagnostics.BeginProgress(2, milliseconds(0));
         diagnostics.ShowProgress(1);
-        diagnostics.PrintLine("x");
-        diagnostics.PrintLine("y");
+        diagnostics.Print("x");
+        diagnostics.Print("y");
         diagnostics.ShowProgress(2);
     }
-    EXPECT_EQ(messages.Contents(), "\r\x1B[K50 % read\r\x1B[Kx\ny\n\r\x1B[K100 % read\r\x1B[K");
+    EXPECT_EQ(messages.Contents(),
+              "\r\x1B[K50 % read\r\x1B[Kcalvoro-cli: x\ncalvoro-cli: y\n\r\x1B[K100 % read\r\x1B[K");
 }
 
 TEST(Diagnostics, DrawsNothingBeforeItsTimeOrUnasked) {

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 
 #include <cerrno>
+#include <cstdlib>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -177,6 +180,47 @@ TEST(LineReader, FlushesTheAnswersBeforeItWaitsAndNotBefore) {
     EXPECT_STREQ(seen, "first\nsecond\n");
 }
 
+TEST(LineReader, ShowsWhatIsAheadAndPassesOverIt) {
+    const TemporaryFile file("one\ntwo\nthree\nfour");
+    const TemporaryFile answers;
+    OutputStream output(answers.Number());
+    LineReader reader(file.Number(), output);
+    EXPECT_EQ(reader.Ahead(), "");
+    std::string_view line;
+    ASSERT_TRUE(reader.Next(line));
+    EXPECT_EQ(reader.Ahead(), "two\nthree\nfour");
+    reader.Skip(4);
+    EXPECT_EQ(reader.Ahead(), "three\nfour");
+    ASSERT_TRUE(reader.Next(line));
+    EXPECT_EQ(line, "three");
+    reader.Skip(0);
+    ASSERT_TRUE(reader.Next(line));
+    EXPECT_EQ(line, "four");
+    EXPECT_EQ(reader.Ahead(), "");
+    EXPECT_FALSE(reader.Next(line));
+}
+/// What a program wrote on a terminal before it went away: after it, reading the terminal's other end fails.
+class Terminal {
+public:
+    void Write(std::string_view text) {
+        const Descriptor program(OpenProgramsEnd());
+        termios modes{};
+        tcgetattr(program.Number(), &modes);
+        cfmakeraw(&modes);
+        tcsetattr(program.Number(), TCSANOW, &modes);
+        if (write(program.Number(), text.data(), text.size()) != std::ssize(text)) std::abort();
+    }
+    int Reading() const { return end_.Number(); }
+
+private:
+    int OpenProgramsEnd() const {
+        if (grantpt(Reading()) != 0 || unlockpt(Reading()) != 0) std::abort();
+        return open(ptsname(Reading()), O_RDWR | O_NOCTTY);
+    }
+
+    Descriptor end_{posix_openpt(O_RDWR | O_NOCTTY)};
+};
+
 TEST(LineReader, TellsTheBytesItHasRead) {
     const TemporaryFile file("a\nbc\n");
     const TemporaryFile answers;
@@ -186,6 +230,78 @@ TEST(LineReader, TellsTheBytesItHasRead) {
     std::string_view line;
     ASSERT_TRUE(reader.Next(line));
     EXPECT_EQ(reader.BytesRead(), 5u);
+}
+
+struct MarkRow {
+    std::string name;
+    std::string text;
+    Lines lines;
+};
+void PrintTo(const MarkRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class ByteOrderMark : public testing::TestWithParam<MarkRow> {};
+
+TEST_P(ByteOrderMark, IsSkippedOnceAtTheStart) {
+    EXPECT_EQ(LinesOfText(GetParam().text), GetParam().lines);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ByteOrderMark,
+                         testing::Values(MarkRow{"Alone", "\xEF\xBB\xBF", {}},
+                                         MarkRow{"BeforeALineEnd", "\xEF\xBB\xBF\nb\n", {"", "b"}},
+                                         MarkRow{"BeforeALine",
+                                                 "\xEF\xBB\xBF"
+                                                 "a\nb",
+                                                 {"a", "b"}},
+                                         MarkRow{"Twice",
+                                                 "\xEF\xBB\xBF\xEF\xBB\xBF"
+                                                 "a\n",
+                                                 {"\xEF\xBB\xBF"
+                                                  "a"}},
+                                         MarkRow{"BeforeALaterLine",
+                                                 "a\n\xEF\xBB\xBF"
+                                                 "b\n",
+                                                 {"a",
+                                                  "\xEF\xBB\xBF"
+                                                  "b"}},
+                                         MarkRow{"CutShort", "\xEF\xBB", {"\xEF\xBB"}},
+                                         MarkRow{"AnotherCharacter", "\xEF\xBB\xBE\n", {"\xEF\xBB\xBE"}}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(LineReader, WaitsForTheRestOfAByteOrderMarkButForNothingElse) {
+    Pipe pipe;
+    const TemporaryFile answers;
+    OutputStream output(answers.Number());
+    LineReader reader(pipe.reading.Number(), output);
+    std::string_view line;
+    pipe.Write("\xEF\xBB");
+    std::thread writer([&pipe] {
+        while (UnreadBytes(pipe.reading.Number()) > 0) std::this_thread::yield();
+        pipe.Write("\xBF\n");
+    });
+    ASSERT_TRUE(reader.Next(line));
+    EXPECT_EQ(line, "");
+    writer.join();
+
+    Pipe other;
+    LineReader otherReader(other.reading.Number(), output);
+    other.Write("\n");
+    ASSERT_TRUE(otherReader.Next(line));
+    EXPECT_EQ(line, "");
+}
+
+TEST(LineReader, TellsAnErrorAfterAPartialLineAndDoesNotGiveTheLine) {
+    Terminal terminal;
+    terminal.Write("whole\npartial");
+    const TemporaryFile answers;
+    OutputStream output(answers.Number());
+    LineReader reader(terminal.Reading(), output);
+    std::string_view line;
+    ASSERT_TRUE(reader.Next(line));
+    EXPECT_EQ(line, "whole");
+    EXPECT_FALSE(reader.Next(line));
+    EXPECT_EQ(reader.Error(), EIO);
 }
 
 TEST(LineReader, TellsTheSystemsError) {

@@ -28,14 +28,15 @@ public:
 };
 
 void CheckAnswer(const ordered_json& answer) {
-    constexpr std::array<std::string_view, 7> kKeys = {"first",    "difference", "second", "output",
-                                                       "messages", "unit",       "result"};
+    constexpr std::array<std::string_view, 8> kKeys = {"first",    "difference", "second", "output",
+                                                       "messages", "unit",       "result", "value"};
     Require(answer.size() == kKeys.size());
     std::size_t index = 0;
     for (const auto& member : answer.items()) Require(member.key() == kKeys[index++]);
     for (const char* key : {"first", "difference", "second", "output"}) Require(answer[key].is_string());
     Require(answer["unit"] == "days" || answer["unit"] == "months");
     Require(answer["result"].is_boolean() || answer["result"].is_null());
+    Require(answer["value"].is_null() || (answer["value"].is_object() && answer["result"] == true));
     for (const ordered_json& message : answer["messages"]) {
         Require(message.size() == 2 && message["title"].is_string() && message["text"].is_string());
     }
@@ -44,18 +45,18 @@ void CheckAnswer(const ordered_json& answer) {
 void CheckLine(std::string_view line) {
     const ClockOfOneDay clock;
     std::string response;
-    const bool isRequest = calvoro::AnswerJsonLine(line, clock, response);
+    const bool isRequest = calvoro::AnswerJsonLine(line, 7, clock, response);
     Require(response.find('\n') == std::string::npos);
     const ordered_json answer = ordered_json::parse(response);
     if (!isRequest) {
-        Require(answer.size() == 1 && answer["error"].is_string());
+        Require(answer.size() == 2 && answer["error"].is_string() && answer["line"] == 7);
         return;
     }
     CheckAnswer(answer);
     const ordered_json again = {
         {"first", answer["first"]}, {"difference", answer["difference"]}, {"second", answer["second"]}};
     std::string secondResponse;
-    Require(calvoro::AnswerJsonLine(again.dump(), clock, secondResponse));
+    Require(calvoro::AnswerJsonLine(again.dump(), 8, clock, secondResponse));
 }
 
 }  // namespace

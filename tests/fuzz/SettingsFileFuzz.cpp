@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "mainwindow/SettingsFile.h"
+#include "mainwindow/settings/SettingsText.h"
 
 namespace {
 
@@ -27,9 +27,8 @@ bool HasLineEnd(const std::string& text) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string text(data, data + size);
-    std::optional<Settings> read = ParseSettingsText(text);
+    const std::optional<Settings> read = ParseSettingsText(text);
     if (!read) return 0;
-    read->saveOutput = true;  // else the texts would not be written
 
     const std::optional<Settings> once = ParseSettingsText(SettingsText(*read));
     Require(once.has_value());

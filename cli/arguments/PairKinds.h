@@ -1,0 +1,23 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/ConvertOptions.h"
+#include "cli/arithmetic/PairFilter.h"
+
+namespace calvoro {
+
+/// How one of two arguments is called, and what it is.
+struct PairName {
+    const char* name;
+    const char* description;
+};
+
+/// The two positional arguments of a pair, and "--input".
+void AddPairSource(CLI::App& command, PairSource& source, const PairName& first, const PairName& second);
+
+/// Settles what these and the column options mean together.
+/// throws  CLI::ParseError
+void SettlePairSource(const CLI::App& command, PairSource& source, const ConvertOptions& answers);
+
+}  // namespace calvoro

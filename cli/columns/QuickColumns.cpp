@@ -1,0 +1,126 @@
+#include "cli/columns/QuickColumns.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace calvoro {
+namespace {
+
+const char* Find(const char* from, const char* end, char character) {
+    return static_cast<const char*>(std::memchr(from, character, static_cast<std::size_t>(end - from)));
+}
+
+// Copies a piece of a line. Most are short, and where there is room for it one fixed step copies them.
+// blockEnd  what may be read ends here
+// to        with room for kStep bytes at least, as the room of a record is larger than any record
+char* Copy(const char* from, const char* end, const char* blockEnd, char* to) {
+    constexpr std::ptrdiff_t kStep = 16;
+    if (end - from <= kStep && blockEnd - from >= kStep) {
+        std::memcpy(to, from, kStep);
+    } else {
+        std::memcpy(to, from, static_cast<std::size_t>(end - from));
+    }
+    return to + (end - from);
+}
+
+// A date in its usual form is digits, "W" and separators.
+bool MayStandInADate(char delimiter, const TextOptions& options) {
+    const bool isDigit = delimiter >= '0' && delimiter <= '9';
+    return isDigit || std::string_view("-/.W").find(delimiter) != std::string_view::npos ||
+           delimiter == options.thousandsSeparator;
+}
+
+bool AreDistinct(std::vector<std::size_t> fields) {
+    std::sort(fields.begin(), fields.end());
+    return std::adjacent_find(fields.begin(), fields.end()) == fields.end();
+}
+
+}  // namespace
+
+QuickColumns::QuickColumns(const ColumnOptions& columns, const TextOptions& options,
+                           const std::vector<std::size_t>& fields)
+    : delimiter_(columns.delimiter),
+      csv_(columns.csv),
+      append_(columns.append),
+      isUsable_(!MayStandInADate(columns.delimiter, options) && AreDistinct(fields)),
+      fields_(fields) {}
+
+std::size_t QuickColumns::ConvertLines(std::string_view block, const DayReader& reader,
+                                       const RecordWriter& writer, OutputStream& output,
+                                       std::uint64_t& lines) const {
+    const char* at = block.data();
+    const char* const blockEnd = at + block.size();
+    while (isUsable_) {
+        const char* const lineFeed = Find(at, blockEnd, '\n');
+        if (lineFeed == nullptr) break;
+        const char* const end = lineFeed > at && lineFeed[-1] == '\r' ? lineFeed - 1 : lineFeed;
+        const Line line{at, end, lineFeed + 1, blockEnd};
+        // Quoted fields are for others to find.
+        if (csv_ && Find(at, end, '"') != nullptr) break;
+        const auto size = static_cast<std::size_t>(line.next - at);
+        const std::size_t room = size + fields_.size() * (writer.Room() + 1);
+        if (room > OutputStream::kBlockSize) break;
+        char* const to = output.Room(room);
+        char* const written =
+            append_ ? ConvertAppending(line, reader, writer, to) : ConvertInPlace(line, reader, writer, to);
+        if (written == nullptr) break;
+        output.Commit(static_cast<std::size_t>(written - to));
+        at = line.next;
+        ++lines;
+    }
+    return static_cast<std::size_t>(at - block.data());
+}
+
+// Each returns nothing when one of the fields is not there or is no plain date.
+char* QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader, const RecordWriter& writer,
+                                   char* to) const {
+    const char* copied = line.begin;
+    const char* at = line.begin;
+    std::size_t column = 0;
+    for (const std::size_t field : fields_) {
+        at = FindField(line, at, field - column);
+        column = field;
+        std::int32_t jdn = 0;
+        const std::size_t length = at == nullptr ? 0 : ReadField(line, at, reader, jdn);
+        if (length == 0 || !writer.CanWrite(jdn)) return nullptr;
+        to = Copy(copied, at, line.blockEnd, to);
+        to = writer.Write(jdn, to);
+        copied = at + length;
+    }
+    return Copy(copied, line.next, line.blockEnd, to);
+}
+
+char* QuickColumns::ConvertAppending(const Line& line, const DayReader& reader, const RecordWriter& writer,
+                                     char* to) const {
+    to = Copy(line.begin, line.end, line.blockEnd, to);
+    for (const std::size_t field : fields_) {
+        const char* const at = FindField(line, line.begin, field);
+        std::int32_t jdn = 0;
+        const std::size_t length = at == nullptr ? 0 : ReadField(line, at, reader, jdn);
+        if (length == 0 || !writer.CanWrite(jdn)) return nullptr;
+        *to++ = delimiter_;
+        to = writer.Write(jdn, to);
+    }
+    return Copy(line.end, line.next, line.blockEnd, to);
+}
+
+// Passes over some delimiters.
+const char* QuickColumns::FindField(const Line& line, const char* from, std::size_t delimiters) const {
+    for (; delimiters > 0; --delimiters) {
+        const char* const found = Find(from, line.end, delimiter_);
+        if (found == nullptr) return nullptr;
+        from = found + 1;
+    }
+    return from;
+}
+
+// The length of the field, when it is nothing but a plain date.
+std::size_t QuickColumns::ReadField(const Line& line, const char* field, const DayReader& reader,
+                                    std::int32_t& jdn) const {
+    if (static_cast<std::size_t>(line.blockEnd - field) < DayReader::kLineRoom) return 0;
+    const std::size_t length = reader.ReadPlain(field, jdn);
+    const char* const end = field + length;
+    return length > 0 && (end == line.end || *end == delimiter_) ? length : 0;
+}
+
+}  // namespace calvoro
