@@ -1,6 +1,7 @@
-# The include roots keep one layer out of another; two things they cannot see are checked here, in every
-# build: a path with "../" that walks around them, and platform/qt, which lies inside a folder that the
-# windows may use but is for the program's entry alone.
+# The include roots keep one layer out of another; three things they cannot see are checked here, in every
+# build: a path with "../" that walks around them, platform/qt, which lies inside a folder that the windows may
+# use but is for the program's entry alone, and the headers of one system, which are for platform/ and for the
+# signals that end the window program.
 #
 # Included by the main CMakeLists.txt it adds the check; run as a script it is the check.
 
@@ -13,7 +14,7 @@ if(NOT CMAKE_SCRIPT_MODE_FILE)
 endif()
 
 set(faults 0)
-foreach(folder calendar datetext text compute platform windows mainwindow app cli tests bench)
+foreach(folder calendar datetext quicktext text compute platform windows mainwindow app cli python tests bench)
   file(GLOB_RECURSE files "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(file IN LISTS files)
     file(STRINGS "${file}" includes REGEX "^[ \t]*#[ \t]*include")
@@ -24,6 +25,10 @@ foreach(folder calendar datetext text compute platform windows mainwindow app cl
       endif()
       if(line MATCHES "\"platform/qt/" AND NOT name MATCHES "^(app|platform/qt|tests)/")
         message(SEND_ERROR "${name}: platform/qt is for app/ alone: ${line}")
+      endif()
+      if(line MATCHES "<(sys/.*|fcntl|io|poll|pthread|pwd|shellapi|shlobj|unistd|windows)\\.h>"
+         AND NOT name MATCHES "^(platform/|app/EndingSignals\\.cpp|tests/|bench/)")
+        message(SEND_ERROR "${name}: a header of one system is for platform/ alone: ${line}")
       endif()
     endforeach()
   endforeach()

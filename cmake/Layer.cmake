@@ -8,11 +8,15 @@
 #
 #   FOLDER   where the headers are found, for a layer that is not named as its folder (platform/qt)
 #   QT       Qt components to link, for the layers that show windows
+#   PUBLIC   a library for other programs as well (Library.cmake)
 
-set(CALVORO_INCLUDE_ROOTS "${CMAKE_BINARY_DIR}/include_roots")
+# In the cache, so that calvoro_use() works in a project that this one is a part of.
+set(CALVORO_INCLUDE_ROOTS "${calvoro_BINARY_DIR}/include_roots" CACHE INTERNAL "The include roots of the layers")
 
 function(calvoro_make_include_root name folder directory)
   cmake_path(GET folder PARENT_PATH parent)
+  # A link of an earlier run, from before the folder moved, would lead into the source tree.
+  file(REMOVE_RECURSE "${CALVORO_INCLUDE_ROOTS}/${name}")
   file(MAKE_DIRECTORY "${CALVORO_INCLUDE_ROOTS}/${name}/${parent}")
   file(CREATE_LINK "${directory}" "${CALVORO_INCLUDE_ROOTS}/${name}/${folder}" SYMBOLIC)
 endfunction()
@@ -26,19 +30,26 @@ function(calvoro_use target)
 endfunction()
 
 function(layer name)
-  cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;MAY_USE;QT" ${ARGN})
+  cmake_parse_arguments(ARG "PUBLIC" "FOLDER" "SOURCES;MAY_USE;QT" ${ARGN})
   if(NOT ARG_FOLDER)
     set(ARG_FOLDER ${name})
   endif()
   calvoro_make_include_root(${name} ${ARG_FOLDER} "${CMAKE_CURRENT_SOURCE_DIR}")
 
-  add_library(calvoro_${name} STATIC ${ARG_SOURCES})
-  target_link_libraries(calvoro_${name} PRIVATE calvoro_options)
+  set(kind STATIC)
+  if(ARG_PUBLIC)
+    set(kind)  # BUILD_SHARED_LIBS decides
+  endif()
+  add_library(calvoro_${name} ${kind} ${ARG_SOURCES})
+  target_link_libraries(calvoro_${name} PRIVATE $<BUILD_INTERFACE:calvoro_options>)
   target_include_directories(calvoro_${name} PRIVATE "${CALVORO_INCLUDE_ROOTS}/${name}")
   calvoro_use(calvoro_${name} ${ARG_MAY_USE})
   if(ARG_QT)
     list(TRANSFORM ARG_QT PREPEND Qt6::)
     target_link_libraries(calvoro_${name} PUBLIC ${ARG_QT} PRIVATE calvoro_qt_options)
     set_target_properties(calvoro_${name} PROPERTIES AUTOMOC ON)
+  endif()
+  if(ARG_PUBLIC)
+    calvoro_offer(${name})
   endif()
 endfunction()

@@ -1,28 +1,43 @@
 # What may be chosen at configure time, and the flags that every target of ours is built with.
 
 option(CALVORO_BUILD_WINDOW "Build the window (needs Qt 6 Widgets)" ON)
-option(CALVORO_BUILD_TESTS "Build the tests (needs GoogleTest and RapidCheck)" ON)
+option(CALVORO_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
+option(CALVORO_TEST_PROPERTIES "Build the tests that need RapidCheck" ON)
+option(CALVORO_PRECOMPILE_TESTS "Compile GoogleTest's headers once a test program" OFF)
+set(CALVORO_GOOGLETEST_SOURCE "" CACHE PATH "Build GoogleTest from this folder instead of looking for it")
+option(CALVORO_BUILD_PYTHON "Build the Python module (needs Python 3, pybind11 and NumPy)" OFF)
 option(CALVORO_BUILD_BENCH "Build the benchmarks (needs Google Benchmark)" OFF)
 option(CALVORO_BUILD_FUZZ "Build the fuzz targets with libFuzzer (needs clang)" OFF)
 option(CALVORO_BUILD_EXHAUSTIVE "Build the check of every day number" OFF)
 option(CALVORO_WERROR "Treat warnings as errors" OFF)
 option(CALVORO_COVERAGE "Instrument for coverage" OFF)
-option(CALVORO_STATIC_RUNTIME "Link libstdc++ and libgcc into the command line statically" ON)
+option(CALVORO_STATIC_RUNTIME "Link the command line statically" ON)
 set(CALVORO_SANITIZE "" CACHE STRING "Sanitizers to build with, for example address,undefined")
 
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(CALVORO_BUILD_PYTHON)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)  # the layers become part of a loadable module
+endif()
 
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Build type" FORCE)
 endif()
 
-# -O2, not CMake's -O3: at -O3 GCC 12 turns the selects of the calendar's closed forms into branches,
-# which random dates mispredict.
-set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
-
 add_library(calvoro_options INTERFACE)
+
+# -O2, not CMake's -O3: at -O3 GCC 12 turns the selects of the calendar's closed forms into branches,
+# which random dates mispredict. Whoever builds the program and chooses a level (in CXXFLAGS, or by setting
+# CMAKE_CXX_FLAGS_RELEASE) gets that one.
+string(STRIP "${CMAKE_CXX_FLAGS_RELEASE_INIT}" calvoro_usual_release_flags)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_FLAGS_RELEASE STREQUAL calvoro_usual_release_flags)
+  string(REGEX MATCHALL " -O[^ ]*" calvoro_levels " -O2 ${CMAKE_CXX_FLAGS}")
+  list(POP_BACK calvoro_levels calvoro_level)
+  string(STRIP "${calvoro_level}" calvoro_level)
+  target_compile_options(calvoro_options INTERFACE $<$<CONFIG:Release>:${calvoro_level}>)
+endif()
+
 target_compile_features(calvoro_options INTERFACE cxx_std_20)
 set(CMAKE_CXX_EXTENSIONS OFF)
 target_compile_options(calvoro_options INTERFACE

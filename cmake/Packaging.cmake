@@ -1,6 +1,5 @@
-# What an installation holds beside the window's own rules (app/), and how cpack makes a Debian package.
+# What an installation holds beside the programs (app/, cli/), and how cpack makes a Debian package.
 
-install(TARGETS calvoro-cli RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(FILES README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 
 set(CPACK_PACKAGE_NAME calvoro)
@@ -17,4 +16,11 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The plugin that shows windows is loaded by name, so no dependency of the binary tells of it.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+# The toolkit's own words in German; without them the everyday ones are there all the same.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
+# The package holds the programs; headers and libraries for other programs are left out.
+set(CPACK_INSTALL_CMAKE_PROJECTS "${calvoro_BINARY_DIR};${CMAKE_PROJECT_NAME};Unspecified;/")
+if(BUILD_SHARED_LIBS)
+  list(APPEND CPACK_INSTALL_CMAKE_PROJECTS "${calvoro_BINARY_DIR};${CMAKE_PROJECT_NAME};Libraries;/")
+endif()
 include(CPack)
