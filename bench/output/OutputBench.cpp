@@ -6,8 +6,8 @@
 #include <QApplication>
 #include <string>
 
-#include "mainwindow/OutputTextBox.h"
 #include "windows/CrLfText.h"
+#include "windows/CrLfTextBox.h"
 
 namespace {
 
@@ -43,7 +43,7 @@ void RewriteTheWhole(QPlainTextEdit& box) {
 }
 
 void Run(benchmark::State& state, void (*append)(QPlainTextEdit&)) {
-    OutputTextBox box(nullptr);
+    CrLfTextBox box(nullptr);
     box.resize(900, 300);
     SetCrLfText(box, OutputOf(static_cast<int>(state.range(0))));
     box.show();

@@ -24,6 +24,8 @@ import time
 MAP_NOTIFY = 19
 SUBSTRUCTURE_NOTIFY_MASK = 1 << 19
 REPORT_RAW_RECTANGLES = 0
+WIDEST_CARET = 4  # pixels
+REST = 0.3  # seconds
 SMALLEST_WINDOW = 100  # pixels; smaller ones are the toolkit's own, which nobody sees
 
 # What an earlier session left: two boxes filled, twenty results.
@@ -85,6 +87,26 @@ class Watcher:
             ctypes.byref, (root, x, y, width, height, border, depth)))
         return width.value, height.value
 
+    def wait_for_paint(self):
+        """Returns the moment of the next paint that is more than a blinking caret."""
+        event = Event()
+        while True:
+            x11.XNextEvent(self.display, ctypes.byref(event))
+            if event.type == self.damage_notify and event.damage.area.width > WIDEST_CARET:
+                return time.monotonic()
+
+    def wait_for_rest(self):
+        """Drops events until a moment has gone by without a paint."""
+        event = Event()
+        end = time.monotonic() + REST
+        while time.monotonic() < end:
+            if not x11.XPending(self.display):
+                time.sleep(0.005)
+                continue
+            x11.XNextEvent(self.display, ctypes.byref(event))
+            if event.type == self.damage_notify and event.damage.area.width > WIDEST_CARET:
+                end = time.monotonic() + REST
+
     def wait_for_first_paint(self):
         """Returns the moment of the first painted window on the monotonic clock, and its size."""
         window_size = None
@@ -96,6 +118,7 @@ class Watcher:
                 size = self.size(event.map.window)
                 if min(size) >= SMALLEST_WINDOW:
                     window_size = size
+                    self.painted_window = event.map.window
             elif event.type == self.damage_notify and window_size:
                 area = event.damage.area
                 if area.width * area.height >= 0.9 * window_size[0] * window_size[1]:
