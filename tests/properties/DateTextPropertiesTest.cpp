@@ -107,12 +107,7 @@ TEST(DateTextProperties, WhatIsWrittenReadsBackAfterTheThousandsSeparatorWasChan
 bool ReadsToItself(CalendarNumber notation, const std::string& text, const TextOptions& options) {
     DateRecord record;
     std::string canonical = "untouched";
-    ParseStatus status = ParseStatus::OutOfRange;
-    try {
-        status = ReadDate(notation, text, options, record, &canonical);
-    } catch (const ArithmeticOverflow&) {  // any other exception fails the property
-        return false;
-    }
+    const ParseStatus status = ReadDate(notation, text, options, record, &canonical);
     if (status != ParseStatus::Valid) {
         RC_ASSERT(canonical == "untouched");
         RC_ASSERT(record == DateRecord{});
