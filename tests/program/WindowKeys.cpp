@@ -1,11 +1,14 @@
 // Prints the key of each button and each label of the main window and the month window, as
 // "frmMain.cmdEnlarge g" a line: keys are given out by the windows themselves, and the tests that drive the
-// program from outside must not guess them. An argument, the number of a language, chooses whose keys.
+// program from outside must not guess them. An argument, the number of a language, chooses whose keys. With a
+// second one the lines are for the page of the manual that lists all keys: window, key and caption, separated by
+// tabs, shortcuts without a caption included.
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeySequence>
 #include <QLabel>
+#include <QShortcut>
 #include <QVariant>
 #include <QWidget>
 #include <cstdio>
@@ -16,12 +19,13 @@
 #include "mainwindow/settings/SettingsFile.h"
 #include "tests/support/FakePlatform.h"
 #include "text/ProgramText.h"
+#include "windows/Mnemonics.h"
 
 namespace {
 
 using namespace calvoro;
 
-void PrintKeys(const QWidget& window) {
+void PrintKeys(const QWidget& window, bool withCaptions) {
     for (const QWidget* control : window.findChildren<QWidget*>()) {
         const bool mayHaveKey = qobject_cast<const QAbstractButton*>(control) != nullptr ||
                                 qobject_cast<const QLabel*>(control) != nullptr;
@@ -29,8 +33,18 @@ void PrintKeys(const QWidget& window) {
         const QString caption = control->property("text").toString();
         const QString key = QKeySequence::mnemonic(caption).toString().section(u'+', -1).toLower();
         if (key.isEmpty()) continue;
+        if (withCaptions) {
+            std::printf("%s\tAlt+%s\t%s\n", qPrintable(window.objectName()), qPrintable(key.toUpper()),
+                        qPrintable(Caption(*control)));
+            continue;
+        }
         std::printf("%s.%s %s\n", qPrintable(window.objectName()), qPrintable(control->objectName()),
                     qPrintable(key));
+    }
+    if (!withCaptions) return;
+    for (const QShortcut* shortcut : window.findChildren<QShortcut*>()) {
+        std::printf("%s\t%s\t\n", qPrintable(window.objectName()),
+                    qPrintable(shortcut->key().toString(QKeySequence::PortableText)));
     }
 }
 
@@ -53,7 +67,7 @@ int main(int argc, char* argv[]) {
         window.findChild<QAbstractButton*>(QStringLiteral("cmdDisplayMonth"))->click();
         QApplication::processEvents();
         for (const QWidget* shown : QApplication::topLevelWidgets()) {
-            if (shown->isVisible()) PrintKeys(*shown);
+            if (shown->isVisible()) PrintKeys(*shown, argc > 2);
         }
     }
     std::filesystem::remove_all(folder);
