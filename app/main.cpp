@@ -16,6 +16,7 @@
 #include "ConfiguredAddresses.h"
 #include "app/Arguments.h"
 #include "app/EndingSignals.h"
+#include "app/InstalledManual.h"
 #include "app/NoDisplay.h"
 #include "datetext/PrintableText.h"
 #include "mainwindow/StartUpTexts.h"
@@ -59,6 +60,18 @@ private:
     QPointer<frmMain> window_;
 };
 
+/// The configured pages, and the manual that lies on this machine.
+WebAddresses Addresses() {
+    WebAddresses addresses = ConfiguredAddresses();
+    const auto installed = [](const QString& language) {
+        return InstalledManual(QCoreApplication::applicationDirPath(), QString::fromUtf8(kManualFolder),
+                               language);
+    };
+    addresses.installedManualEnglish = installed(QStringLiteral("en"));
+    addresses.installedManualGerman = installed(QStringLiteral("de"));
+    return addresses;
+}
+
 int ShowWindow(QApplication& application) {
     QtMessageBoxes boxes;
     QtClipboard clipboard;
@@ -69,7 +82,7 @@ int ShowWindow(QApplication& application) {
 
     if (!LoadTextsOrTell(QCoreApplication::applicationDirPath().toStdString(), boxes)) return EXIT_FAILURE;
 
-    frmMain window(platform, ConfiguredAddresses());
+    frmMain window(platform, Addresses());
     const auto end = [&window] { window.QuitAndSave(); };
     const EndingSignals endingSignals(end, nullptr);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, end, Qt::DirectConnection);

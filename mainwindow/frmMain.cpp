@@ -16,6 +16,7 @@
 #include "mainwindow/settings/SettingsFile.h"
 #include "text/NumberedTexts.h"
 #include "windows/AccessibleRole.h"
+#include "windows/ManualAddress.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
 #include "windows/QtText.h"
@@ -289,9 +290,7 @@ void frmMain::OnReset() {
 }
 
 void frmMain::OnOnlineDocumentation() {
-    OpenWebPage(platform_.web, platform_.boxes,
-                state_.texts.InterfaceLanguage == LanguageGerman ? addresses_.manualGerman
-                                                                 : addresses_.manualEnglish);
+    OpenWebPage(platform_.web, platform_.boxes, ManualAddress(addresses_, state_.texts.InterfaceLanguage));
 }
 
 void frmMain::ReadSettings() {

@@ -16,6 +16,12 @@ foreach(program IN LISTS programs)
   endif()
 endforeach()
 
+if(MANUAL AND NOT EXISTS "${WORK}/share/doc/calvoro/html/en/index.html")
+  message(FATAL_ERROR "the manual is not installed")
+elseif(NOT MANUAL AND NOT said MATCHES "manual's web pages are no part of this tree")
+  message(FATAL_ERROR "nothing tells that the manual is missing:\n${said}")
+endif()
+
 # A tree with a program missing names it and copies nothing.
 execute_process(
   COMMAND "${CMAKE_COMMAND}" -G Ninja -S "${SOURCE}" -B "${WORK}/unbuilt" "-DCMAKE_CXX_COMPILER=${COMPILER}"

@@ -244,6 +244,24 @@ private Q_SLOTS:
         QVERIFY(main.Shown().empty());
     }
 
+    // While the online pages are at a reserved address, where nothing can be.
+    void TheInstalledManualIsOpenedInTheLanguageOfTheInterface() {
+        MainWindowFixture main;
+        main.addresses.installedManualEnglish = "file:///manual/en/index.html";
+        main.addresses.installedManualGerman = "file:///manual/de/index.html";
+        main.Start();
+        main.fake.web.results = {33, 33, 33};
+        main.Click(u"lblOnlineDocumentation"_s);
+        main.Click(u"optLanguageIsGerman"_s);
+        main.Click(u"lblOnlineDocumentation"_s);
+        main.Click(u"lblVantorelSystems"_s);
+        QCOMPARE(main.fake.web.opened.size(), 3U);
+        QCOMPARE(main.fake.web.opened[0].address, std::string("file:///manual/en/index.html"));
+        QCOMPARE(main.fake.web.opened[1].address, std::string("file:///manual/de/index.html"));
+        QCOMPARE(main.fake.web.opened[2].address, std::string("https://home.example/"));
+        QVERIFY(main.fake.Settled());
+    }
+
     void ABrowserThatDoesNotStartIsTold() {
         MainWindowFixture main;
         main.Start();

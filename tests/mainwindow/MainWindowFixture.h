@@ -28,6 +28,7 @@ public:
     FakePlatform fake;
     QTemporaryDir folder;
     std::unique_ptr<frmMain> window;
+    WebAddresses addresses = Addresses();
 
     MainWindowFixture() {
         const std::string failure = LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat");
@@ -48,7 +49,7 @@ public:
 
     /// Starts the window with the settings that a run before has left, if any.
     void Start() {
-        window = std::make_unique<frmMain>(fake.platform, Addresses());
+        window = std::make_unique<frmMain>(fake.platform, addresses);
         window->Start();
         Activate();
     }

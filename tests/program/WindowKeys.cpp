@@ -1,8 +1,8 @@
 // Prints the key of each button and each label of the main window and the month window, as
 // "frmMain.cmdEnlarge g" a line: keys are given out by the windows themselves, and the tests that drive the
 // program from outside must not guess them. An argument, the number of a language, chooses whose keys. With a
-// second one the lines are for the page of the manual that lists all keys: window, key and caption, separated by
-// tabs, shortcuts without a caption included.
+// second one the lines are for the page of the manual that lists all keys: window, key and caption, separated
+// by tabs, shortcuts without a caption included.
 
 #include <QAbstractButton>
 #include <QApplication>

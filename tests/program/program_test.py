@@ -213,23 +213,63 @@ class Session(unittest.TestCase):
         self.quit(process)
 
     def press_the_makers_name(self):
-        # The link stands in the lower right corner, above the line that tells how a box is read.
+        self.press_a_link(58)
+
+    def press_a_link(self, from_the_right):
+        # The links stand in the lower right corner, above the line that tells how a box is read.
         window = self.desktop.main_window()
         width, height = self.desktop.size(window)
-        self.desktop.tool("xdotool", "mousemove", "--window", window, str(width - 58), str(height - 44),
-                          "click", "1")
+        self.desktop.tool("xdotool", "mousemove", "--window", window, str(width - from_the_right),
+                          str(height - 44), "click", "1")
 
-    def test_a_link_opens_the_browser(self):
+    def browser(self):
+        """Puts a browser on the path that writes down the address; gives the path and what was opened."""
         opener = self.desktop.folder / "bin" / "xdg-open"
         opened = self.desktop.folder / "opened"
-        opener.parent.mkdir()
+        opener.parent.mkdir(exist_ok=True)
         opener.write_text(f'#!/bin/sh\nprintf "%s\\n" "$@" >"{opened}"\n')
         opener.chmod(0o755)
-        process = self.desktop.start(PATH=f"{opener.parent}:/usr/bin:/bin")
+        return f"{opener.parent}:/usr/bin:/bin", opened
+
+    def test_a_link_opens_the_browser(self):
+        path, opened = self.browser()
+        process = self.desktop.start(PATH=path)
         self.press_the_makers_name()
         wait_for("the browser", lambda: opened.exists() and opened.read_text())
         self.assertEqual(opened.read_text(), "https://vantorel.example/\n")
         self.quit(process)
+
+    def test_the_manual_beside_the_program_is_opened(self):
+        path, opened = self.browser()
+        for number, language in enumerate(("en", "de")):
+            page = pathlib.Path(PROGRAM).resolve().parent / "manual" / language / "index.html"
+            self.assertTrue(page.is_file())
+            self.desktop.put_settings(settings_text(language=number))
+            process = self.desktop.start(PATH=path)
+            self.press_a_link(200)
+            wait_for("the browser", lambda: opened.exists() and opened.read_text())
+            self.assertEqual(opened.read_text(), page.as_uri() + "\n")
+            opened.unlink()
+            self.quit(process)
+
+    def test_the_installed_manual_is_opened_and_without_one_the_online_page(self):
+        path, opened = self.browser()
+        installed = self.desktop.folder / "usr" / "lib" / "calvoro" / "calvoro"
+        installed.parent.mkdir(parents=True)
+        shutil.copy2(PROGRAM, installed)
+        shutil.copy2(pathlib.Path(PROGRAM).parent / "calvoro.dat", installed.parent)
+        self.desktop.program = str(installed)
+        page = self.desktop.folder / "usr" / "share" / "doc" / "calvoro" / "html" / "en" / "index.html"
+        for address in ("https://vantorel.example/calvoro/manual/en/", page.as_uri()):
+            if address.startswith("file:"):
+                page.parent.mkdir(parents=True)
+                page.touch()
+            process = self.desktop.start(PATH=path)
+            self.press_a_link(200)
+            wait_for("the browser", lambda: opened.exists() and opened.read_text())
+            self.assertEqual(opened.read_text(), address + "\n")
+            opened.unlink()
+            self.quit(process)
 
     def test_a_link_without_a_browser_ends_in_a_message(self):
         process = self.desktop.start(PATH=str(self.desktop.folder))
