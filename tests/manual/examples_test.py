@@ -3,9 +3,11 @@
 
     examples_test.py PROGRAM            compares
     examples_test.py PROGRAM --update   writes what was seen into the pages
+    examples_test.py PROGRAM --others   the same two for the commands of other programs, in blocks named "shell",
+                                        which need these programs (scripts/comparison)
 
 PROGRAM is calvoro-cli; `./run` in an example stands for it too. The examples of a page run one after the other
-in a folder that holds the files of docs/manual/files. Messages and results come in the order in which a terminal
+in a folder that holds the files of docs/manual/files, and docs itself. Messages and results come in the order in which a terminal
 shows them. Blanks at the end of a line do not count.
 """
 
@@ -19,7 +21,7 @@ import unittest
 
 from pages import MANUAL, ROOT, all_pages, examples
 
-LEAST_NUMBER = 150  # of examples in all: a search that finds none must not pass
+LEAST_NUMBER = {"console": 150, "shell": 50}  # a search that finds none must not pass
 
 
 class Bench:
@@ -32,6 +34,7 @@ class Bench:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="calvoro-examples-"))
         shutil.copytree(MANUAL / "files", self.folder, dirs_exist_ok=True)
         (self.folder / "run").symlink_to(self.program)
+        (self.folder / "docs").symlink_to(ROOT / "docs")
         return self
 
     def __exit__(self, *_):
@@ -53,26 +56,27 @@ def without_trailing_blanks(text):
 class Examples(unittest.TestCase):
     maxDiff = None
     program = None
+    kind = "console"
 
     def test_every_example_prints_what_its_page_says(self):
         number = 0
         for page in all_pages():
             with Bench(self.program) as bench:
-                for example in examples(page.read_text()):
+                for example in examples(page.read_text(), self.kind):
                     number += 1
                     with self.subTest(page=str(page.relative_to(ROOT)), line=example.line, command=example.command):
                         self.assertEqual(bench.run(example.command), without_trailing_blanks(example.output))
-        self.assertGreater(number, LEAST_NUMBER)
+        self.assertGreater(number, LEAST_NUMBER[self.kind])
 
 
-def update(program):
+def update(program, kind):
     for page in all_pages():
         lines, old = [], page.read_text()
         inside = answered = False
         with Bench(program) as bench:
             for line in old.splitlines():
                 if line.startswith("```"):
-                    inside = line == "```console"
+                    inside = line == f"```{kind}"
                     answered = False
                 elif inside and line.startswith("$ "):
                     lines += [line, *bench.run(line[2:]).splitlines()]
@@ -89,7 +93,10 @@ def update(program):
 
 if __name__ == "__main__":
     Examples.program = sys.argv.pop(1)
+    if "--others" in sys.argv:
+        sys.argv.remove("--others")
+        Examples.kind = "shell"
     if "--update" in sys.argv:
-        update(Examples.program)
+        update(Examples.program, Examples.kind)
     else:
         unittest.main()

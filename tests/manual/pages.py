@@ -46,14 +46,14 @@ def blocks(text):
         raise ValueError(f"a block is not closed: line {first}")
 
 
-def examples(text):
-    """The commands of all console blocks, in order."""
+def examples(text, kind="console"):
+    """The commands of all blocks of a kind, in order: "console" with commands of ours, "shell" of others."""
     found = []
-    for kind, first, lines in blocks(text):
-        if kind != "console":
+    for block, first, lines in blocks(text):
+        if block != kind:
             continue
         if not lines or not lines[0].startswith("$ "):
-            raise ValueError(f"a console block without a command: line {first}")
+            raise ValueError(f"a {kind} block without a command: line {first}")
         for number, line in enumerate(lines, first):
             if line.startswith("$ "):
                 found.append(Example(line[2:], "", number))
