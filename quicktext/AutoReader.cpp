@@ -6,6 +6,15 @@
 #include "quicktext/TextTail.h"
 
 namespace calvoro {
+namespace {
+
+// Year, month and day, or week and weekday, as leap-week dates have them, are what many calendars have; that
+// the options ask for no other form of them tells nothing about a text.
+bool LooksLikeOthers(CalendarNumber notation) {
+    return notation == CalendarNumber::LPM || notation == CalendarNumber::LPW;
+}
+
+}  // namespace
 
 AutoReader::AutoReader(const TextOptions& options) {
     readers_.emplace_back(CalendarNumber::ISO, options);
@@ -45,7 +54,7 @@ AutoResult AutoReader::ReadForm(std::string_view text) const {
             if (result.place >= farthest.place) farthest = result;
         } else if (i < exclusive_) {
             return {result, readers_[i].Notation()};
-        } else if (recognised.notation) {
+        } else if (recognised.notation || LooksLikeOthers(readers_[i].Notation())) {
             return {Refused(ReadFault::SeveralNotations, 0), std::nullopt};
         } else {
             recognised = {result, readers_[i].Notation()};

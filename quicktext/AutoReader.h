@@ -23,8 +23,9 @@ public:
     /// options  the format and the separators of the texts
     explicit AutoReader(const TextOptions& options);
 
-    /// Reads a text. A tag at its end decides; else the form, when only one notation can have it: which day
-    /// it would be plays no part. A form that several notations have is refused as ambiguous.
+    /// Reads a text. A tag at its end decides; else the form, when only one notation can have it (a week
+    /// date, an ordinal date, a plain day number): which day it would be plays no part. A form that several
+    /// notations have is refused as ambiguous, and so are leap-week dates, which look like dates of CE.
     AutoResult Read(std::string_view text) const;
 
 private:

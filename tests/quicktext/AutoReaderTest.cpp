@@ -65,14 +65,17 @@ INSTANTIATE_TEST_SUITE_P(
         // Forms of one notation only.
         AutoRow{kPlain, "2024-W11-5", ISO, None}, AutoRow{kPlain, "2024W115", ISO, None},
         AutoRow{kPlain, "2024-075", ORD, None}, AutoRow{kPlain, "2460385", JDN, None},
-        AutoRow{kPlain, "2.460.385", JDN, None}, AutoRow{kSlashes, "2024-12-5", LPW, None},
-        AutoRow{kSlashes, "2024-03-19", LPM, None}, AutoRow{kPlain, "2024-W54-1", ISO, NoSuchWeek},
+        AutoRow{kPlain, "2.460.385", JDN, None}, AutoRow{kSlashes, "2024-12-5 LPW", LPW, None},
+        AutoRow{kSlashes, "2024-03-19 LPM", LPM, None}, AutoRow{kPlain, "2024-W54-1", ISO, NoSuchWeek},
         AutoRow{kPlain, "2023-366", ORD, NoSuchDay}, AutoRow{kPlain, "2460370.5", JDN, Fraction},
         AutoRow{kCompact, "2,460,385", JDN, None}, AutoRow{kPlain, "99999999999", JDN, TooLarge},
         // Forms of several.
         AutoRow{kPlain, "2024-03-15", kNone, SeveralNotations},
         AutoRow{kPlain, "2024-12-5", kNone, SeveralNotations},
         AutoRow{kSlashes, "15/03/2024", kNone, SeveralNotations},
+        AutoRow{kSlashes, "2024-12-5", kNone, SeveralNotations},
+        AutoRow{kSlashes, "2024-03-19", kNone, SeveralNotations},
+        AutoRow{kSlashes, "9999999-03-19", kNone, SeveralNotations},
         AutoRow{kPlain, "0044-03-13 BCE", kNone, SeveralNotations},
         AutoRow{kPlain, "2024-02-30", kNone, SeveralNotations},
         AutoRow{kCompact, "2024075", kNone, SeveralNotations},
@@ -87,11 +90,14 @@ TEST(AutoReader, NamesTheFarthestPlaceThatAnyNotationReaches) {
     EXPECT_EQ(AutoReader(kPlain).Read("2024-03-1S").result, Refused(Unexpected, 9));
 }
 
-/// The notations that have the form of a text without tag, found by asking each.
+/// The notations that have the form of a text without tag, found by asking each. Leap-week dates look like
+/// dates of other calendars, whatever format those are asked for in.
 std::vector<CalendarNumber> NotationsOfForm(const std::string& text, const TextOptions& options) {
     std::vector<CalendarNumber> found;
     for (const Notation& notation : Notations()) {
-        if (HasTheForm(ReadStrictText(notation.number, options, text))) found.push_back(notation.number);
+        if (!HasTheForm(ReadStrictText(notation.number, options, text))) continue;
+        found.push_back(notation.number);
+        if (notation.number == LPM || notation.number == LPW) found.push_back(CE);
     }
     return found;
 }
