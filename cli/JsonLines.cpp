@@ -1,5 +1,8 @@
 #include "cli/JsonLines.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "cli/ComputeRequest.h"
 #include "cli/HeadlessWindow.h"
 #include "cli/JsonRequest.h"
@@ -29,12 +32,14 @@ void AppendEscape(char character, std::string& to) {
 // text  UTF-8
 void AppendJsonString(std::string_view text, std::string& to) {
     to += '"';
-    for (const char character : text) {
-        if (NeedsEscape(character)) {
-            AppendEscape(character, to);
-        } else {
-            to += character;
-        }
+    const char* const end = text.data() + text.size();
+    const char* at = text.data();
+    for (;;) {
+        const char* const escaped = std::find_if(at, end, [](char c) { return NeedsEscape(c); });
+        to.append(at, escaped);
+        if (escaped == end) break;
+        AppendEscape(*escaped, to);
+        at = escaped + 1;
     }
     to += '"';
 }
@@ -70,12 +75,12 @@ bool AnswerJsonLine(std::string_view line, std::uint64_t number, const Clock& cl
         AppendJsonFault(fault, number, response);
         return false;
     }
-    AnswerRequest(request, clock, response);
+    AnswerRequest(std::move(request), clock, response);
     return true;
 }
 
-void AnswerRequest(const ComputeRequest& request, const Clock& clock, std::string& response) {
-    HeadlessWindow window(request, clock);
+void AnswerRequest(ComputeRequest request, const Clock& clock, std::string& response) {
+    HeadlessWindow window(std::move(request), clock);
     ComputeState state;
     const ClickOutcome outcome = cmdCompute_Click(window, state);
     AppendMember("{\"first\":", window.InputText(InputBox::FirstDate), response);

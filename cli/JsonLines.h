@@ -21,7 +21,7 @@ struct ComputeRequest;
 bool AnswerJsonLine(std::string_view line, std::uint64_t number, const Clock& clock, std::string& response);
 
 /// Appends the response to a request.
-void AnswerRequest(const ComputeRequest& request, const Clock& clock, std::string& response);
+void AnswerRequest(ComputeRequest request, const Clock& clock, std::string& response);
 
 /// Appends the response to a line that is not a valid request.
 void AppendJsonFault(std::string_view fault, std::uint64_t number, std::string& response);

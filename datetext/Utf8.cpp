@@ -1,6 +1,7 @@
 #include "datetext/Utf8.h"
 
 #include <array>
+#include <cstring>
 
 namespace calvoro {
 namespace {
@@ -47,6 +48,18 @@ Utf8Character FirstCharacter(std::string_view text) {
     return {};
 }
 
+// How many bytes the text begins with that are ASCII, eight at a time: all of most texts.
+std::size_t AsciiLength(std::string_view text) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t bytes = 0; text.size() - length >= sizeof bytes; length += sizeof bytes) {
+        std::memcpy(&bytes, text.data() + length, sizeof bytes);
+        if ((bytes & kHighBits) != 0) break;
+    }
+    while (length < text.size() && ByteAt(text, length) < 0x80) ++length;
+    return length;
+}
+
 }  // namespace
 
 std::size_t Utf8CharacterLength(std::string_view text) {
@@ -67,12 +80,13 @@ std::size_t CountCharacters(std::string_view text) {
 }
 
 bool IsUtf8(std::string_view text) {
-    while (!text.empty()) {
+    for (;;) {
+        text.remove_prefix(AsciiLength(text));
+        if (text.empty()) return true;
         const std::size_t length = Utf8CharacterLength(text);
         if (length == 0) return false;
         text.remove_prefix(length);
     }
-    return true;
 }
 
 }  // namespace calvoro

@@ -10,6 +10,16 @@ const char* Find(const char* from, const char* end, char character) {
     return static_cast<const char*>(std::memchr(from, character, static_cast<std::size_t>(end - from)));
 }
 
+// The next quote; many lines are searched at once, as most have none.
+// end      of the line, which is searched in any case
+// returns  where the search ended when there is none
+const char* FindQuote(const char* from, const char* end, const char* blockEnd) {
+    constexpr std::ptrdiff_t kAtOnce = 2048;
+    const char* const last = blockEnd - from > kAtOnce ? std::max(end, from + kAtOnce) : blockEnd;
+    const char* const quote = Find(from, last, '"');
+    return quote == nullptr ? last : quote;
+}
+
 // Copies a piece of a line. Most are short, and where there is room for it one fixed step copies them.
 // blockEnd  what may be read ends here
 // to        with room for kStep bytes at least, as the room of a record is larger than any record
@@ -48,32 +58,43 @@ QuickColumns::QuickColumns(const ColumnOptions& columns, const TextOptions& opti
 std::size_t QuickColumns::ConvertLines(std::string_view block, const DayReader& reader,
                                        const RecordWriter& writer, OutputStream& output,
                                        std::uint64_t& lines) const {
+    if (!isUsable_) return 0;
+    const std::size_t answersRoom = fields_.size() * (writer.Room() + 1);
     const char* at = block.data();
     const char* const blockEnd = at + block.size();
-    while (isUsable_) {
-        const char* const lineFeed = Find(at, blockEnd, '\n');
-        if (lineFeed == nullptr) break;
+    char* begin = nullptr;  // of what is free in the output
+    char* to = nullptr;
+    std::size_t room = 0;
+    const char* unquoted = csv_ ? at : blockEnd;  // where it ends that no quote stands in what comes next
+    while (const char* const lineFeed = Find(at, blockEnd, '\n')) {
         const char* const end = lineFeed > at && lineFeed[-1] == '\r' ? lineFeed - 1 : lineFeed;
         const Line line{at, end, lineFeed + 1, blockEnd};
         // Quoted fields are for others to find.
-        if (csv_ && Find(at, end, '"') != nullptr) break;
-        const auto size = static_cast<std::size_t>(line.next - at);
-        const std::size_t room = size + fields_.size() * (writer.Room() + 1);
-        if (room > OutputStream::kBlockSize) break;
-        char* const to = output.Room(room);
+        if (unquoted < end) unquoted = FindQuote(unquoted, end, blockEnd);
+        if (unquoted < end) break;
+        const std::size_t needed = static_cast<std::size_t>(line.next - at) + answersRoom;
+        if (needed > room - static_cast<std::size_t>(to - begin)) {
+            if (needed > OutputStream::kBlockSize) break;
+            output.Commit(static_cast<std::size_t>(to - begin));
+            begin = to = output.Room(needed);
+            room = output.Free();
+        }
         char* const written =
             append_ ? ConvertAppending(line, reader, writer, to) : ConvertInPlace(line, reader, writer, to);
         if (written == nullptr) break;
-        output.Commit(static_cast<std::size_t>(written - to));
+        to = written;
         at = line.next;
         ++lines;
     }
+    output.Commit(static_cast<std::size_t>(to - begin));
     return static_cast<std::size_t>(at - block.data());
 }
 
+// What follows is called for every line, from one place each.
+
 // Each returns nothing when one of the fields is not there or is no plain date.
-char* QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader, const RecordWriter& writer,
-                                   char* to) const {
+inline char* QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader,
+                                          const RecordWriter& writer, char* to) const {
     const char* copied = line.begin;
     const char* at = line.begin;
     std::size_t column = 0;
@@ -90,8 +111,8 @@ char* QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader, co
     return Copy(copied, line.next, line.blockEnd, to);
 }
 
-char* QuickColumns::ConvertAppending(const Line& line, const DayReader& reader, const RecordWriter& writer,
-                                     char* to) const {
+inline char* QuickColumns::ConvertAppending(const Line& line, const DayReader& reader,
+                                            const RecordWriter& writer, char* to) const {
     to = Copy(line.begin, line.end, line.blockEnd, to);
     for (const std::size_t field : fields_) {
         const char* const at = FindField(line, line.begin, field);
@@ -105,7 +126,7 @@ char* QuickColumns::ConvertAppending(const Line& line, const DayReader& reader, 
 }
 
 // Passes over some delimiters.
-const char* QuickColumns::FindField(const Line& line, const char* from, std::size_t delimiters) const {
+inline const char* QuickColumns::FindField(const Line& line, const char* from, std::size_t delimiters) const {
     for (; delimiters > 0; --delimiters) {
         const char* const found = Find(from, line.end, delimiter_);
         if (found == nullptr) return nullptr;
@@ -115,8 +136,8 @@ const char* QuickColumns::FindField(const Line& line, const char* from, std::siz
 }
 
 // The length of the field, when it is nothing but a plain date.
-std::size_t QuickColumns::ReadField(const Line& line, const char* field, const DayReader& reader,
-                                    std::int32_t& jdn) const {
+inline std::size_t QuickColumns::ReadField(const Line& line, const char* field, const DayReader& reader,
+                                           std::int32_t& jdn) const {
     if (static_cast<std::size_t>(line.blockEnd - field) < DayReader::kLineRoom) return 0;
     const std::size_t length = reader.ReadPlain(field, jdn);
     const char* const end = field + length;

@@ -96,6 +96,16 @@ TEST_P(Utf8CharacterLengthOf, IsItsCountOfBytes) {
     EXPECT_EQ(IsUtf8(GetParam().text), GetParam().length == GetParam().text.size());
 }
 
+TEST_P(Utf8CharacterLengthOf, IsFoundWhateverStandsAroundIt) {
+    const bool isUtf8 = GetParam().length == GetParam().text.size();
+    for (std::size_t before = 0; before <= 17; ++before) {
+        for (std::size_t behind = 0; behind <= 9; ++behind) {
+            const std::string text = std::string(before, 'a').append(GetParam().text).append(behind, 'z');
+            EXPECT_EQ(IsUtf8(text), isUtf8) << before << " " << behind;
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Rows, Utf8CharacterLengthOf,
     testing::Values(Utf8Row{"Nothing", "", 0}, Utf8Row{"First", "\0"sv, 1}, Utf8Row{"LastOfOne", "\x7F", 1},
