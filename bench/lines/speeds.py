@@ -34,7 +34,10 @@ OPTIONS = [
      ["--from", "CE", "--to", "JC", "--date-separator", ".", "--date-format", "DMY"], "CE_dots", 0.6),
     ("--thousands-separator ,", ["--from", "JDN", "--to", "JDN", "--thousands-separator", ","], "JDN_commas", 0.6),
     ("CR LF", ["--from", "CE", "--to", "ISO"], "CE_crlf", 0.6),
-    ("--field", ["--from", "CE", "--to", "ISO", "--field", "1"], "CE_pairs", 0.6),
+    ("--field 1", ["--from", "CE", "--to", "ISO", "--field", "1"], "CE_pairs", 0.6),
+    ("--field 2, the last one", ["--from", "CE", "--to", "ISO", "--field", "2"], "CE_pairs", 0.6),
+    ("--field 1 --append", ["--from", "CE", "--to", "ISO", "--field", "1", "--append"], "CE_pairs", 0.6),
+    ("--csv --field 1", ["--from", "CE", "--to", "ISO", "--csv", "--field", "1"], "CE_csv", 0.6),
 ]
 
 # Other commands than convert, in the same terms.
