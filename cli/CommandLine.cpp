@@ -36,7 +36,17 @@ constexpr const char* kFooter = R"(Notations:
   JDN    Julian day number                                              2460385
 
 Exit status: 0 all good, 1 some input was refused or could not be read or written,
-2 the arguments make no sense.)";
+2 the arguments make no sense.
+
+Examples:
+  calvoro-cli convert --from CE --to ISO,JDN 2024-03-15
+  calvoro-cli convert --from CE --to ISO --csv --header --field 2 --input people.csv
+  calvoro-cli between 2021-03-01 2024-08-08
+  calvoro-cli add 2024-01-31 90
+  calvoro-cli compute --first 2021-03-04 --difference 10 --second-calendar JC
+  calvoro-cli month 2024-09 --iso
+  calvoro-cli today --all
+  calvoro-cli help convert)";
 
 int AnswerOutcome(const ReadOutcome& outcome, const std::string& name) {
     Diagnostics diagnostics(kStandardError);
