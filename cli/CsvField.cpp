@@ -2,8 +2,8 @@
 
 namespace calvoro {
 
-char* WriteCsvField(std::string_view field, char* to) {
-    if (!NeedsCsvQuotes(field)) return to + field.copy(to, field.size());
+char* WriteCsvField(std::string_view field, char delimiter, char* to) {
+    if (!NeedsCsvQuotes(field, delimiter)) return to + field.copy(to, field.size());
     *to++ = '"';
     for (const char character : field) {
         if (character == '"') *to++ = '"';

@@ -9,13 +9,16 @@
 namespace calvoro {
 
 /// Whether a field must stand in quotes.
-inline bool NeedsCsvQuotes(std::string_view field) {
-    return field.find_first_of(",\"\r\n") != std::string_view::npos;
+/// delimiter  what separates the fields; a comma is quoted beside any other, as readers may expect one
+inline bool NeedsCsvQuotes(std::string_view field, char delimiter) {
+    const char special[] = {',', '"', '\r', '\n', delimiter};
+    return field.find_first_of(std::string_view(special, sizeof special)) != std::string_view::npos;
 }
 
 /// Writes a field, in quotes where it needs them.
-/// to       room for twice the field and two characters more
-/// returns  behind the last character written
-char* WriteCsvField(std::string_view field, char* to);
+/// delimiter  what separates the fields
+/// to         room for twice the field and two characters more
+/// returns    behind the last character written
+char* WriteCsvField(std::string_view field, char delimiter, char* to);
 
 }  // namespace calvoro

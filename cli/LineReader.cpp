@@ -41,7 +41,8 @@ void LineReader::SkipByteOrderMark() {
     while (read().size() < kByteOrderMark.size() && kByteOrderMark.starts_with(read())) {
         if (!Refill()) return;
     }
-    if (read().starts_with(kByteOrderMark)) begin_ += kByteOrderMark.size();
+    hadByteOrderMark_ = read().starts_with(kByteOrderMark);
+    if (hadByteOrderMark_) begin_ += kByteOrderMark.size();
 }
 
 bool LineReader::NextAfterRefill(std::string_view& line) {

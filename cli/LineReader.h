@@ -48,6 +48,9 @@ public:
     /// size  in bytes, with their ends
     void Skip(std::size_t size) { begin_ += size; }
 
+    /// Whether a byte order mark was skipped; known when Next has been called.
+    bool HadByteOrderMark() const { return hadByteOrderMark_; }
+
     /// Whether the line that Next gave was cut at kMaxLineLength.
     bool IsCut() const { return cut_; }
 
@@ -73,6 +76,7 @@ private:
     char* begin_;  // first byte not yet given out
     char* end_;    // behind the last byte read
     bool atStart_ = true;
+    bool hadByteOrderMark_ = false;
     bool atEnd_ = false;
     bool cut_ = false;
     int error_ = 0;

@@ -29,10 +29,10 @@ std::array<PaddedName, 7> MakeWeekdayNames() {
 }
 
 // Whether a date or a tag of this notation may hold a character that makes CSV quote it.
-bool MayNeedQuotes(CalendarNumber notation, const TextOptions& text) {
+bool MayNeedQuotes(CalendarNumber notation, const TextOptions& text, char delimiter) {
     switch (notation) {
         case CalendarNumber::LPM:
-        case CalendarNumber::LPW: return NeedsCsvQuotes(text.digitGrouping);
+        case CalendarNumber::LPW: return NeedsCsvQuotes(text.digitGrouping, delimiter);
         case CalendarNumber::ISO:
         case CalendarNumber::ORD: return false;
         case CalendarNumber::CE:
@@ -42,7 +42,7 @@ bool MayNeedQuotes(CalendarNumber notation, const TextOptions& text) {
         case CalendarNumber::VLW:
         case CalendarNumber::ARC: break;
     }
-    return NeedsCsvQuotes(std::string_view(&text.thousandsSeparator, 1));
+    return NeedsCsvQuotes(std::string_view(&text.thousandsSeparator, 1), delimiter);
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ RecordWriter::RecordWriter(const ConvertOptions& options)
     : weekday_(options.weekday), separator_(options.delimiter) {
     for (const CalendarNumber target : options.targets) {
         Field field{.writer = QuickWriter(target, options.text, options.eraStyle)};
-        field.isQuotable = options.csv && MayNeedQuotes(target, options.text);
+        field.isQuotable = options.csv && MayNeedQuotes(target, options.text, separator_);
         field.isPlain = !field.isQuotable && target != CalendarNumber::ORD;
         if (options.tag) field.tag = TagText(target);
         field.isLast = !options.weekday && fields_.size() + 1 == options.targets.size();
@@ -93,7 +93,7 @@ char* RecordWriter::WriteField(const Field& field, std::int32_t jdn, char* to) c
         std::string date(field.writer.Room(), '\0');
         date.resize(static_cast<std::size_t>(field.writer.Write(jdn, date.data()) - date.data()));
         if (!field.tag.empty()) date.append(" ").append(field.tag);
-        to = WriteCsvField(date, to);
+        to = WriteCsvField(date, separator_, to);
     }
     if (!field.isLast) *to++ = separator_;
     return to;

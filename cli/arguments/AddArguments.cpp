@@ -70,7 +70,7 @@ void DeclareArguments(CLI::App& command, AddArguments& arguments) {
             if (settled.weekdaysOnly) throw CLI::ExcludesError("--unit months", "--weekdays-only");
             if (settled.includeFirstDate) throw CLI::ExcludesError("--unit months", "--include-first-date");
         }
-        SettlePairSource(command, arguments.source, answers);
+        SettlePairSource(command, arguments.source, answers, {});
         settled.delimiter = answers.delimiter = arguments.source.columns.delimiter;
     });
 }

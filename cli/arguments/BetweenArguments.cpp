@@ -63,7 +63,7 @@ void DeclareArguments(CLI::App& command, BetweenArguments& arguments) {
             settled.second.reading = settled.first.reading;
         }
         settled.second.text = settled.first.text;
-        SettlePairSource(command, arguments.source, settled.first);
+        SettlePairSource(command, arguments.source, settled.first, settled.breakdown ? ", " : "");
         settled.delimiter = arguments.source.columns.delimiter;
     });
 }

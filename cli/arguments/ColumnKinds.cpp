@@ -54,6 +54,9 @@ bool MayStandInAnAnswer(char character, const ConvertOptions& answers) {
     const TextOptions& text = answers.text;
     if (IsLetterOrDigit(character) || character == '-' || character == text.dateSeparator) return true;
     if (character == ' ' && (answers.tag || answers.eraStyle != EraStyle::Astronomical)) return true;
+    // Negative years that stand last are in parentheses.
+    const bool isParenthesis = character == '(' || character == ')';
+    if (isParenthesis && text.dateFormat != DateFormat::YMD) return true;
     const bool groups =
         character == text.thousandsSeparator || text.digitGrouping.find(character) != std::string::npos;
     return groups && !(answers.csv && character == ',');  // which is quoted there
@@ -72,10 +75,12 @@ void AddColumnOptions(CLI::App& command, ColumnOptions& columns, const char* fie
     command.add_flag("--header", columns.header, "the first line names the columns")->group(kGroup);
 }
 
-void SettleColumns(const CLI::App& command, ColumnOptions& columns, const ConvertOptions& answers) {
+void SettleColumns(const CLI::App& command, ColumnOptions& columns, const ConvertOptions& answers,
+                   std::string_view others) {
     columns.csv = answers.csv;
     if (columns.csv && !WasGiven(command, "--delimiter")) columns.delimiter = ',';
-    if (MayStandInAnAnswer(columns.delimiter, answers)) {
+    const bool mayStandInOthers = !columns.csv && others.find(columns.delimiter) != std::string_view::npos;
+    if (mayStandInOthers || MayStandInAnAnswer(columns.delimiter, answers)) {
         throw CLI::ValidationError("--delimiter", "could stand in an answer");
     }
 }

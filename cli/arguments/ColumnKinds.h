@@ -1,6 +1,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <string_view>
 
 #include "cli/ConvertOptions.h"
 #include "cli/columns/ColumnOptions.h"
@@ -13,7 +14,9 @@ void AddColumnOptions(CLI::App& command, ColumnOptions& columns, const char* fie
 
 /// Settles what the column options and --csv mean together.
 /// answers  how answers are written
+/// others   characters that the output may hold beside dates, names and numbers; quoted with --csv
 /// throws   CLI::ValidationError when the delimiter could stand in an answer
-void SettleColumns(const CLI::App& command, ColumnOptions& columns, const ConvertOptions& answers);
+void SettleColumns(const CLI::App& command, ColumnOptions& columns, const ConvertOptions& answers,
+                   std::string_view others);
 
 }  // namespace calvoro

@@ -138,7 +138,8 @@ void DeclareArguments(CLI::App& command, ConvertArguments& arguments, const std:
             arguments.options.reading = Reading::Lenient;
         }
         if (arguments.inputFile && !arguments.dates.empty()) throw CLI::ExcludesError("--input", "DATE");
-        SettleColumns(command, arguments.columns, arguments.options);
+        // The name of an added column is that of the old one, a blank, and the tag.
+        SettleColumns(command, arguments.columns, arguments.options, arguments.columns.header ? " " : "");
         arguments.options.delimiter = arguments.columns.delimiter;
         if (arguments.scan) SettleScan(command, arguments);
         if (arguments.columns.fields.empty()) {

@@ -22,9 +22,10 @@ void AddPairSource(CLI::App& command, PairSource& source, const PairName& first,
         ->excludes(one);
 }
 
-void SettlePairSource(const CLI::App& command, PairSource& source, const ConvertOptions& answers) {
+void SettlePairSource(const CLI::App& command, PairSource& source, const ConvertOptions& answers,
+                      std::string_view others) {
     ColumnOptions& columns = source.columns;
-    SettleColumns(command, columns, answers);
+    SettleColumns(command, columns, answers, others);
     if (columns.fields.empty()) columns.fields = {0, 1};
     if (columns.fields.size() != 2) throw CLI::ValidationError("--field", "must be two columns");
     if (!source.first) return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <string_view>
 
 #include "cli/ConvertOptions.h"
 #include "cli/arithmetic/PairFilter.h"
@@ -17,7 +18,9 @@ struct PairName {
 void AddPairSource(CLI::App& command, PairSource& source, const PairName& first, const PairName& second);
 
 /// Settles what these and the column options mean together.
+/// others  as for SettleColumns
 /// throws  CLI::ParseError
-void SettlePairSource(const CLI::App& command, PairSource& source, const ConvertOptions& answers);
+void SettlePairSource(const CLI::App& command, PairSource& source, const ConvertOptions& answers,
+                      std::string_view others);
 
 }  // namespace calvoro

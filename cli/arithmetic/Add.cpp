@@ -54,7 +54,7 @@ char* Add::Answer(std::string_view date, std::string_view number, char* to, Pair
     if (status != ParseStatus::Valid) {
         const std::string reason =
             status == ParseStatus::NotValid ? "not a number of " : "too large a number of ";
-        refusal = {reason + (inMonths ? "months" : "days"), number};
+        refusal = {reason + (inMonths ? "months" : "days"), number, true};
         return to;
     }
     if (inMonths && !HasMonths(*day.notation)) {

@@ -48,13 +48,13 @@ char* Between::Answer(std::string_view first, std::string_view second, char* to,
     }
     const AutoResult secondDay = second_.Read(second);
     if (secondDay.result.status != ParseStatus::Valid) {
-        refusal = {RefusalText(secondDay, second), second};
+        refusal = {RefusalText(secondDay, second), second, true};
         return to;
     }
     state_.FirstDateRecord.jdn = firstDay.result.jdn;
     state_.SecondDateRecord.jdn = secondDay.result.jdn;
     if (!CountDays(state_)) {
-        refusal = {"the number of days is out of range", second};
+        refusal = {"the number of days is out of range", second, true};
         return to;
     }
     const char separator = options_.first.text.thousandsSeparator;
@@ -62,7 +62,7 @@ char* Between::Answer(std::string_view first, std::string_view second, char* to,
         to = std::to_chars(to, to + kRoom, state_.DateDifference).ptr;
     } else {
         const std::string number = ThousandsText(state_.DateDifference, separator);
-        to = options_.first.csv ? WriteCsvField(number, to) : to + number.copy(to, kRoom);
+        to = options_.first.csv ? WriteCsvField(number, options_.delimiter, to) : to + number.copy(to, kRoom);
     }
     if (!options_.breakdown) return to;
     *to++ = options_.delimiter;
@@ -96,7 +96,7 @@ char* Between::WriteBreakdown(char* to) {
     state_.FirstDateRecord = RecordOf(state_.FirstDateRecord.jdn, state_.options.firstCalendar);
     state_.SecondDateRecord = RecordOf(state_.SecondDateRecord.jdn, state_.options.secondCalendar);
     const std::string parts = PartsText(PartsOfDifference(state_), state_.options.texts);
-    return options_.first.csv ? WriteCsvField(parts, to) : to + parts.copy(to, kRoom);
+    return options_.first.csv ? WriteCsvField(parts, options_.delimiter, to) : to + parts.copy(to, kRoom);
 }
 
 std::string Between::Header() const {

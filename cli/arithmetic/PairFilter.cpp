@@ -4,6 +4,7 @@
 
 #include "cli/Filter.h"
 #include "cli/columns/Columns.h"
+#include "datetext/Utf8.h"
 
 namespace calvoro {
 namespace {
@@ -17,6 +18,7 @@ public:
           isFirst_(options.header) {}
 
     void AnswerArguments(std::string_view first, std::string_view second) {
+        isOfArguments_ = true;
         Answer(first, second, {"argument", 1});
         filter_.EndLine("\n");
     }
@@ -34,7 +36,11 @@ private:
         const bool isPlain =
             !isFirst_ && !options_.append && options_.fields[0] == 0 && options_.fields[1] == 1;
         if (isPlain) reader.Skip(work_.AnswerLines(reader.Ahead(), filter_.Output(), place.number));
-        if (!reader.Next(line)) return false;
+        const bool isThere = reader.Next(line);
+        // Lines that are appended to keep the mark that they begin with.
+        const bool keepsMark = options_.append && place.number == 0 && reader.HadByteOrderMark();
+        if (keepsMark) filter_.Output().Append(kByteOrderMark);
+        if (!isThere) return false;
         ++place.number;
         const Place begin = place;
         if (options_.csv) place.number += JoinQuotedLines(reader, options_.delimiter, line);
@@ -75,8 +81,9 @@ private:
         if (!refusal.reason.empty()) Refuse(refusal, place);
     }
 
-    void Refuse(const PairRefusal& refusal, const Place& place) {
+    void Refuse(const PairRefusal& refusal, Place place) {
         filter_.Output().Append(work_.EmptyAnswer());
+        if (isOfArguments_ && refusal.isOfSecond) ++place.number;
         filter_.Refuse(refusal.reason, refusal.text, place);
     }
 
@@ -86,6 +93,7 @@ private:
     Columns columns_;
     std::string first_;
     bool isFirst_;
+    bool isOfArguments_ = false;
 };
 
 }  // namespace

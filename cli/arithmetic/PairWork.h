@@ -15,6 +15,7 @@ namespace calvoro {
 struct PairRefusal {
     std::string reason;  // empty when there is one
     std::string_view text;
+    bool isOfSecond = false;  // which of the two texts it is
 };
 
 class PairWork {

@@ -4,14 +4,16 @@
 
 #include "cli/CsvField.h"
 #include "datetext/Tags.h"
+#include "datetext/Utf8.h"
 
 namespace calvoro {
 namespace {
 
-std::string Quoted(const std::string& name, bool csv) {
-    if (!csv) return name;
+std::string Quoted(const std::string& name, const ColumnOptions& columns) {
+    if (!columns.csv) return name;
     std::string quoted(2 * name.size() + 2, '\0');
-    quoted.resize(static_cast<std::size_t>(WriteCsvField(name, quoted.data()) - quoted.data()));
+    quoted.resize(
+        static_cast<std::size_t>(WriteCsvField(name, columns.delimiter, quoted.data()) - quoted.data()));
     return quoted;
 }
 
@@ -44,7 +46,10 @@ bool ColumnConversion::ConvertLine(LineReader& reader, Place& place) {
             quickColumns_.ConvertLines(reader.Ahead(), reader_, writer_, filter_.Output(), place.number));
     }
     std::string_view line;
-    if (!reader.Next(line)) return false;
+    const bool isThere = reader.Next(line);
+    // A mark that the file begins with is no part of its first column, and passes through.
+    if (place.number == 0 && reader.HadByteOrderMark()) filter_.Output().Append(kByteOrderMark);
+    if (!isThere) return false;
     ++place.number;
     const Place begin = place;
     if (columnOptions_.csv) place.number += JoinQuotedLines(reader, columnOptions_.delimiter, line);
@@ -120,11 +125,11 @@ std::string ColumnConversion::NamesOf(std::string_view name) const {
     std::string names;
     for (const CalendarNumber target : options_.targets) {
         if (!names.empty()) names += columnOptions_.delimiter;
-        names += Quoted(std::string(name).append(" ").append(TagText(target)), columnOptions_.csv);
+        names += Quoted(std::string(name).append(" ").append(TagText(target)), columnOptions_);
     }
     if (options_.weekday) {
         names += columnOptions_.delimiter;
-        names += Quoted(std::string(name) + " weekday", columnOptions_.csv);
+        names += Quoted(std::string(name) + " weekday", columnOptions_);
     }
     return names;
 }

@@ -88,6 +88,27 @@ class Csv(unittest.TestCase):
                 self.assertEqual(seen, [["x", "day", "z", "day ISO"]] +
                                  [[row[0], row[1].isoformat(), row[2], iso(row[1])] for row in rows])
 
+    def test_every_answer_is_one_column_whatever_separates_them(self):
+        generator = self.generator
+        for number in range(FILES):
+            delimiter = generator.choice(",;|\t ")
+            dated = generator.randrange(3)
+            rows = self.rows(3, dated)
+            names = [random_text(generator) for _ in range(3)]
+            out = io.StringIO(newline="")
+            csv.writer(out, delimiter=delimiter, lineterminator="\r\n").writerows([names] + rows)
+            mark = generator.choice(["", "\ufeff"])
+            status, output, messages = convert(mark + out.getvalue(), "--to", "ISO,JDN", "--thousands-separator", ",",
+                                               "--delimiter", delimiter, "--header", "--field", str(dated + 1))
+            with self.subTest(number):
+                self.assertEqual((status, messages, output.startswith("\ufeff")), (0, "", mark != ""))
+                expected = [names[:dated] + [names[dated] + " ISO", names[dated] + " JDN"] + names[dated + 1:]]
+                for row in rows:
+                    day = "{:,}".format(row[dated].toordinal() + 1721425)
+                    expected.append([str(text) for text in row[:dated] + [iso(row[dated]), day] + row[dated + 1:]])
+                seen = csv.reader(io.StringIO(output[len(mark):], newline=""), delimiter=delimiter)
+                self.assertEqual(list(seen), expected)
+
 
 if __name__ == "__main__":
     unittest.main()
