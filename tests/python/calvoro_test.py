@@ -2,6 +2,8 @@
 
 import doctest
 import inspect
+import pathlib
+import sys
 import threading
 import time
 import unittest
@@ -9,6 +11,10 @@ import unittest
 import calvoro
 import numpy as np
 from calvoro import DateError
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "manual"))
+sys.dont_write_bytecode = True
+from pages import all_pages, blocks  # noqa: E402
 
 CE = ["2024-02-29", "1582-10-15", "-43-03-13", "0001-01-01", "9999-12-31"]
 IN_EVERY_NOTATION = {
@@ -183,6 +189,20 @@ class Module(unittest.TestCase):
         results = doctest.testmod(calvoro)
         self.assertEqual(results.failed, 0)
         self.assertGreater(results.attempted, 15)
+
+    def test_examples_in_the_manual_are_true(self):
+        attempted = 0
+        for page in all_pages():
+            for kind, first, lines in blocks(page.read_text()):
+                if kind != "python" or not lines[0].startswith(">>>"):
+                    continue
+                example = doctest.DocTestParser().get_doctest("\n".join(lines) + "\n", {}, page.name, str(page),
+                                                              first - 1)
+                with self.subTest(page.name):
+                    results = doctest.DocTestRunner().run(example)
+                    self.assertEqual(results.failed, 0)
+                    attempted += results.attempted
+        self.assertGreater(attempted, 15)
 
     def test_every_public_name_is_documented_and_typed(self):
         for name in calvoro.__all__:
