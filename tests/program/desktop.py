@@ -33,6 +33,7 @@ class Desktop:
         self.window_keys = window_keys and str(window_keys)
         self.screen = size + "x24"
         self.started = []
+        self.language = 0  # of the program, whose keys press the buttons
         self.button_keys = {}
 
     def __enter__(self):
@@ -183,9 +184,9 @@ class Desktop:
         self.tool("xdotool", "type", "--delay", "10", text)
 
     def press(self, button):
-        """Presses a button, named as "frmMain.cmdEnlarge", by its English key; its window has the focus."""
+        """Presses a button, named as "frmMain.cmdEnlarge", by its key; its window has the focus."""
         if not self.button_keys:
-            listed = self.tool(self.window_keys, "-platform", "offscreen").stdout
+            listed = self.tool(self.window_keys, str(self.language), "-platform", "offscreen").stdout
             self.button_keys = dict(line.split() for line in listed.splitlines())
         self.keys("alt+" + self.button_keys[button])
 
