@@ -1,8 +1,13 @@
 # The manual as web pages: made from docs/manual into a folder beside the window's program, where the program
 # finds it in the build tree, and installed as the component "manual".
 
+if(CALVORO_BUILD_WINDOW AND PROJECT_IS_TOP_LEVEL)
+  set(calvoro_manual_wanted ON)
+else()
+  set(calvoro_manual_wanted OFF)
+endif()
 option(CALVORO_BUILD_MANUAL "Make the manual's web pages (needs Python 3 and python3-markdown)"
-  ${CALVORO_BUILD_WINDOW})
+  ${calvoro_manual_wanted})
 
 set(calvoro_manual_place "${CMAKE_INSTALL_DOCDIR}/html")
 set(calvoro_manual_pages "${calvoro_BINARY_DIR}/app/manual")
@@ -41,6 +46,6 @@ add_custom_command(OUTPUT "${calvoro_BINARY_DIR}/manual.stamp"
   COMMAND "${CALVORO_MANUAL_PYTHON}" -B "${calvoro_manual_maker}" "${calvoro_manual_pages}"
   COMMAND "${CMAKE_COMMAND}" -E touch "${calvoro_BINARY_DIR}/manual.stamp"
   DEPENDS ${calvoro_manual_sources} COMMENT "Making the manual's web pages" VERBATIM)
-add_custom_target(manual ALL DEPENDS "${calvoro_BINARY_DIR}/manual.stamp")
+add_custom_target(calvoro_manual ALL DEPENDS "${calvoro_BINARY_DIR}/manual.stamp")
 
 install(DIRECTORY "${calvoro_manual_pages}/" DESTINATION "${calvoro_manual_place}" COMPONENT manual)
