@@ -65,6 +65,7 @@ RecordWriter::RecordWriter(const ConvertOptions& options)
         room_ += 2 * (field.writer.Room() + field.suffix.size()) + 2;
     }
     room_ += kNamesRoom;
+    isOneDate_ = fields_.size() == 1 && !options.weekday && !options.tag && !fields_.front().isQuotable;
 }
 
 std::optional<CalendarNumber> RecordWriter::FirstUnable(std::int32_t jdn) const {
@@ -74,7 +75,7 @@ std::optional<CalendarNumber> RecordWriter::FirstUnable(std::int32_t jdn) const 
     return std::nullopt;
 }
 
-char* RecordWriter::Write(std::int32_t jdn, char* to) const {
+char* RecordWriter::WriteFields(std::int32_t jdn, char* to) const {
     for (const Field& field : fields_) {
         if (field.isPlain || (!field.isQuotable && field.writer.CanWrite(jdn))) {
             to = field.writer.Write(jdn, to);

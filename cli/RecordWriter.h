@@ -32,7 +32,9 @@ public:
     /// jdn      CanWrite must hold
     /// to       Room() bytes
     /// returns  behind the last character written
-    char* Write(std::int32_t jdn, char* to) const;
+    char* Write(std::int32_t jdn, char* to) const {
+        return isOneDate_ ? fields_.front().writer.Write(jdn, to) : WriteFields(jdn, to);
+    }
 
 private:
     // What follows a date at once: its tag and the separator of the next field.
@@ -48,11 +50,13 @@ private:
         std::size_t suffixLength = 0;
     };
 
+    char* WriteFields(std::int32_t jdn, char* to) const;
     char* WriteField(const Field& field, std::int32_t jdn, char* to) const;
     char* WriteWeekday(std::int32_t jdn, char* to) const;
 
     std::vector<Field> fields_;
     bool weekday_;
+    bool isOneDate_ = false;  // that is all there is to write, as most often
     bool hasLimits_ = false;  // those of ordinal dates, the only ones there are
     char separator_;
     std::size_t room_ = 0;
