@@ -20,11 +20,11 @@ const char* FindQuote(const char* from, const char* end, const char* blockEnd) {
     return quote == nullptr ? last : quote;
 }
 
-// Copies a piece of a line. Most are short, and where there is room for it one fixed step copies them.
+// Copies what stands between dates. Most of it is short, and where there is room one fixed step copies it.
 // blockEnd  what may be read ends here
 // to        with room for kStep bytes at least, as the room of a record is larger than any record
 char* Copy(const char* from, const char* end, const char* blockEnd, char* to) {
-    constexpr std::ptrdiff_t kStep = 16;
+    constexpr std::ptrdiff_t kStep = 32;
     if (end - from <= kStep && blockEnd - from >= kStep) {
         std::memcpy(to, from, kStep);
     } else {
@@ -62,40 +62,46 @@ std::size_t QuickColumns::ConvertLines(std::string_view block, const DayReader& 
     const std::size_t answersRoom = fields_.size() * (writer.Room() + 1);
     const char* at = block.data();
     const char* const blockEnd = at + block.size();
+    Progress done{at, nullptr};
     char* begin = nullptr;  // of what is free in the output
-    char* to = nullptr;
     std::size_t room = 0;
+    const auto handOver = [&] {
+        if (begin == nullptr) return;
+        done.to = Copy(done.copied, at, blockEnd, done.to);
+        done.copied = at;
+        output.Commit(static_cast<std::size_t>(done.to - begin));
+    };
     const char* unquoted = csv_ ? at : blockEnd;  // where it ends that no quote stands in what comes next
     while (const char* const lineFeed = Find(at, blockEnd, '\n')) {
         const char* const end = lineFeed > at && lineFeed[-1] == '\r' ? lineFeed - 1 : lineFeed;
-        const Line line{at, end, lineFeed + 1, blockEnd};
+        const Line line{at, end, blockEnd};
         // Quoted fields are for others to find.
         if (unquoted < end) unquoted = FindQuote(unquoted, end, blockEnd);
         if (unquoted < end) break;
-        const std::size_t needed = static_cast<std::size_t>(line.next - at) + answersRoom;
-        if (needed > room - static_cast<std::size_t>(to - begin)) {
+        const std::size_t needed = static_cast<std::size_t>(lineFeed + 1 - done.copied) + answersRoom;
+        if (needed > room - static_cast<std::size_t>(done.to - begin)) {
             if (needed > OutputStream::kBlockSize) break;
-            output.Commit(static_cast<std::size_t>(to - begin));
-            begin = to = output.Room(needed);
+            handOver();
+            begin = done.to = output.Room(needed);
             room = output.Free();
         }
-        char* const written =
-            append_ ? ConvertAppending(line, reader, writer, to) : ConvertInPlace(line, reader, writer, to);
-        if (written == nullptr) break;
-        to = written;
-        at = line.next;
+        Progress further = done;
+        const bool isConverted = append_ ? ConvertAppending(line, reader, writer, further)
+                                         : ConvertInPlace(line, reader, writer, further);
+        if (!isConverted) break;
+        done = further;
+        at = lineFeed + 1;
         ++lines;
     }
-    output.Commit(static_cast<std::size_t>(to - begin));
+    handOver();
     return static_cast<std::size_t>(at - block.data());
 }
 
 // What follows is called for every line, from one place each.
 
-// Each returns nothing when one of the fields is not there or is no plain date.
-inline char* QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader,
-                                          const RecordWriter& writer, char* to) const {
-    const char* copied = line.begin;
+// Each returns false when one of the fields is not there or is no plain date.
+inline bool QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader,
+                                         const RecordWriter& writer, Progress& done) const {
     const char* at = line.begin;
     std::size_t column = 0;
     for (const std::size_t field : fields_) {
@@ -103,26 +109,26 @@ inline char* QuickColumns::ConvertInPlace(const Line& line, const DayReader& rea
         column = field;
         std::int32_t jdn = 0;
         const std::size_t length = at == nullptr ? 0 : ReadField(line, at, reader, jdn);
-        if (length == 0 || !writer.CanWrite(jdn)) return nullptr;
-        to = Copy(copied, at, line.blockEnd, to);
-        to = writer.Write(jdn, to);
-        copied = at + length;
+        if (length == 0 || !writer.CanWrite(jdn)) return false;
+        done.to = writer.Write(jdn, Copy(done.copied, at, line.blockEnd, done.to));
+        done.copied = at + length;
     }
-    return Copy(copied, line.next, line.blockEnd, to);
+    return true;
 }
 
-inline char* QuickColumns::ConvertAppending(const Line& line, const DayReader& reader,
-                                            const RecordWriter& writer, char* to) const {
-    to = Copy(line.begin, line.end, line.blockEnd, to);
+inline bool QuickColumns::ConvertAppending(const Line& line, const DayReader& reader,
+                                           const RecordWriter& writer, Progress& done) const {
+    done.to = Copy(done.copied, line.end, line.blockEnd, done.to);
+    done.copied = line.end;
     for (const std::size_t field : fields_) {
         const char* const at = FindField(line, line.begin, field);
         std::int32_t jdn = 0;
         const std::size_t length = at == nullptr ? 0 : ReadField(line, at, reader, jdn);
-        if (length == 0 || !writer.CanWrite(jdn)) return nullptr;
-        *to++ = delimiter_;
-        to = writer.Write(jdn, to);
+        if (length == 0 || !writer.CanWrite(jdn)) return false;
+        *done.to = delimiter_;
+        done.to = writer.Write(jdn, done.to + 1);
     }
-    return Copy(line.end, line.next, line.blockEnd, to);
+    return true;
 }
 
 // Passes over some delimiters.

@@ -32,15 +32,21 @@ private:
     // A line in its block, whose bytes may be read to the block's end.
     struct Line {
         const char* begin;
-        const char* end;   // of the text
-        const char* next;  // behind the line's end
+        const char* end;  // of the text
         const char* blockEnd;
     };
 
-    char* ConvertInPlace(const Line& line, const DayReader& reader, const RecordWriter& writer,
-                         char* to) const;
-    char* ConvertAppending(const Line& line, const DayReader& reader, const RecordWriter& writer,
-                           char* to) const;
+    // How far the output has come. What stands between two dates is copied with the second of them, often
+    // over the end of a line.
+    struct Progress {
+        const char* copied;  // in the block
+        char* to;
+    };
+
+    bool ConvertInPlace(const Line& line, const DayReader& reader, const RecordWriter& writer,
+                        Progress& done) const;
+    bool ConvertAppending(const Line& line, const DayReader& reader, const RecordWriter& writer,
+                          Progress& done) const;
     const char* FindField(const Line& line, const char* from, std::size_t delimiters) const;
     std::size_t ReadField(const Line& line, const char* field, const DayReader& reader,
                           std::int32_t& jdn) const;
