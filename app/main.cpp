@@ -102,7 +102,8 @@ int main(int argc, char* argv[]) {
     const ReadArguments read = ReadProgramArguments(arguments);
     switch (read.request) {
         case Request::Help: return Print(HelpMessage());
-        case Request::Version: return Print(std::string("calvoro ") + kProgramVersion + "\n");
+        case Request::Version:
+            return Print(std::string("calvoro ") + kProgramVersion + "\n" + kNotice + "\n");
         case Request::Refuse: return Refuse(read.refused);
         case Request::ShowWindow: break;
     }

@@ -66,7 +66,7 @@ void BeginCommand(CLI::App& command, const char* usage, const char* footer) {
     command.footer(footer);
     command.option_defaults()->take_last();
     command.set_help_flag("-h,--help", "this help");
-    command.set_version_flag("--version", "calvoro-cli " CALVORO_VERSION, "the version");
+    command.set_version_flag("--version", "calvoro-cli " CALVORO_VERSION "\n" CALVORO_NOTICE, "the version");
 }
 
 }  // namespace calvoro

@@ -32,8 +32,9 @@ def run_without_display(arguments=(), **environment):
 class WithoutDisplay(unittest.TestCase):
     def test_the_version_is_told(self):
         result = run_without_display(["--version"])
-        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "calvoro 13.0.1\n", ""))
-        self.assertEqual(run_without_display(["-V"]).stdout, "calvoro 13.0.1\n")
+        version = "calvoro 13.0.1\nCopyright (c) 2026 the Calvoro authors, MIT licence\n"
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, version, ""))
+        self.assertEqual(run_without_display(["-V"]).stdout, version)
 
     def test_help_is_given_whatever_stands_beside_it(self):
         for arguments in (["--help"], ["-h"], ["-platform", "xcb", "--help"], ["--nonsense", "--help"]):
