@@ -26,7 +26,7 @@ namespace {
 constexpr const char* kProgramName = "calvoro-cli";
 constexpr const char* kHelpCommand = "help";
 constexpr const char* kSummary = "Converts dates between seven notations and does arithmetic with them.";
-constexpr const char* kFooter = R"(Notations:
+constexpr const char* kProgramFooter = R"(Notations:
   CE     Common Era date (Gregorian, with year 0 and negative years)    2024-03-15
   ISO    ISO 8601 week date                                             2024-W11-5
   JC     Julian Calendar date                                           2024-03-02
@@ -109,7 +109,7 @@ constexpr std::array<Command, 6> kCommands = {{
 // What the program answers by itself: its help, its version, and that no command is asked for.
 int AnswerWithoutCommand(const std::vector<std::string>& words) {
     CLI::App& program = NewApp(kSummary, kProgramName);
-    BeginCommand(program, "COMMAND [OPTIONS] [ARGUMENTS]", kFooter);
+    BeginCommand(program, "COMMAND [OPTIONS] [ARGUMENTS]", kProgramFooter);
     for (const Command& command : kCommands) {
         program.add_subcommand(command.name, command.summary)->group("Commands");
     }

@@ -9,6 +9,7 @@ option(CALVORO_BUILD_PYTHON "Build the Python module (needs Python 3, pybind11 a
 option(CALVORO_BUILD_BENCH "Build the benchmarks (needs Google Benchmark)" OFF)
 option(CALVORO_BUILD_FUZZ "Build the fuzz targets with libFuzzer (needs clang)" OFF)
 option(CALVORO_BUILD_EXHAUSTIVE "Build the check of every day number" OFF)
+option(CALVORO_JOIN_SOURCES "Compile the sources of a folder as one, in less time" OFF)
 option(CALVORO_WERROR "Treat warnings as errors" OFF)
 option(CALVORO_COVERAGE "Instrument for coverage" OFF)
 option(CALVORO_STATIC_RUNTIME "Link the command line statically" ON)

@@ -21,7 +21,7 @@ struct ReadingWords {
     std::string_view dateOutOfRange;
     std::string_view differenceOutOfRange;
 };
-constexpr ReadingWords kEnglish = {
+constexpr ReadingWords kEnglishWords = {
     .afterDay = " ",
     .beforeChrist = "BCE",
     .dayNumber = "day number",
@@ -29,7 +29,7 @@ constexpr ReadingWords kEnglish = {
     .dateOutOfRange = "beyond the years that can be computed",
     .differenceOutOfRange = "beyond the numbers that can be computed",
 };
-constexpr ReadingWords kGerman = {
+constexpr ReadingWords kGermanWords = {
     .afterDay = ". ",
     .beforeChrist = "v. Chr.",
     .dayNumber = "Tageszahl",
@@ -39,7 +39,7 @@ constexpr ReadingWords kGerman = {
 };
 
 const ReadingWords& WordsOf(const Texts& texts) {
-    return texts.InterfaceLanguage == LanguageGerman ? kGerman : kEnglish;
+    return texts.InterfaceLanguage == LanguageGerman ? kGermanWords : kEnglishWords;
 }
 
 TextId NameOf(InputBox box) {

@@ -10,7 +10,7 @@
 namespace calvoro {
 namespace {
 
-constexpr std::int32_t kLargestPlainYear = 9999;
+constexpr std::int32_t kLargestUngroupedYear = 9999;
 
 /// The three numbers of a text: year, week and weekday, or year, month and day.
 struct LeapWeekFields {
@@ -66,7 +66,7 @@ ParseStatus StatusOfResult(std::int32_t result) {
 /// Writes the year at the beginning of a text.
 void AppendYear(std::string& text, std::int32_t year, std::string_view digitGrouping) {
     AppendNumber(text, year);
-    if (year <= kLargestPlainYear && year >= -kLargestPlainYear) return;
+    if (year <= kLargestUngroupedYear && year >= -kLargestUngroupedYear) return;
     const std::size_t firstDigit = year < 0 ? 1U : 0U;
     for (std::size_t at = text.size(); at > firstDigit + 3;) {
         at -= 3;

@@ -8,10 +8,6 @@
 namespace calvoro {
 namespace {
 
-std::uint8_t ByteAt(std::string_view text, std::size_t position) {
-    return static_cast<std::uint8_t>(text[position]);
-}
-
 /// Characters from first to last.
 struct Range {
     std::uint32_t first;

@@ -24,10 +24,6 @@ struct Utf8Character {
     std::uint32_t number = 0;
 };
 
-std::uint8_t ByteAt(std::string_view text, std::size_t position) {
-    return static_cast<std::uint8_t>(text[position]);
-}
-
 bool IsCharacterNumber(std::uint32_t number) {
     return number <= 0x10FFFF && (number < 0xD800 || number > 0xDFFF);
 }

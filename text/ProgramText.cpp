@@ -12,7 +12,6 @@ struct ResultMessage {
     std::string_view message;
 };
 
-constexpr std::int32_t kCannotOpen = -1;
 constexpr std::array<ResultMessage, 8> kResultMessages = {{
     {0, "No program text was read."},
     {kCannotOpen, "Cannot open file containing program text."},

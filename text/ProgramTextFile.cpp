@@ -15,7 +15,6 @@ namespace calvoro {
 namespace {
 
 constexpr std::int32_t kNoText = 0;
-constexpr std::int32_t kCannotOpen = -1;
 constexpr std::int32_t kNoMemoryForFile = -2;
 constexpr std::int32_t kTooMuchText = -3;
 constexpr std::int32_t kNoNumber = -4;

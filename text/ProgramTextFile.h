@@ -13,6 +13,9 @@
 
 namespace calvoro {
 
+/// The result of lt for a file that cannot be opened.
+inline constexpr std::int32_t kCannotOpen = -1;
+
 /// Loads the file, replacing what was loaded before only when it succeeds. The first fault ends the reading;
 /// in one line the number is judged before the English text, and that before the lengths.
 /// path     UTF-8

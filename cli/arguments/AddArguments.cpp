@@ -8,7 +8,7 @@
 namespace calvoro {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kAddFooter =
     R"(Adds days or months to a date, or takes them away when the number is negative, as a click
 on Compute does. Months are added to CE, JC and LPM dates; a day beyond the end of the
 month becomes its last day. Dates are read strictly, as convert reads them. Without
@@ -34,7 +34,7 @@ void DeclareArguments(CLI::App& command, AddArguments& arguments) {
     ConvertOptions& dates = options.dates;
     dates.text.thousandsSeparator = kNoSeparator;
     dates.text.digitGrouping.clear();
-    BeginCommand(command, "[OPTIONS] [DATE NUMBER]", kFooter);
+    BeginCommand(command, "[OPTIONS] [DATE NUMBER]", kAddFooter);
     AddPairSource(command, arguments.source, {"DATE", "the date"},
                   {"NUMBER", "how many days or months: 90, -90, 1,000"});
 

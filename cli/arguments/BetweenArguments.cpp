@@ -8,7 +8,7 @@
 namespace calvoro {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kBetweenFooter =
     R"(Counts the days from the first date to the second as a click on Compute does: negative when
 the second is the earlier. Dates are read strictly, as convert reads them. Without dates,
 two columns of every line of the standard input are read, and every line gives one line of
@@ -31,7 +31,7 @@ void DeclareArguments(CLI::App& command, BetweenArguments& arguments) {
     ConvertOptions& first = options.first;
     first.text.thousandsSeparator = kNoSeparator;
     first.text.digitGrouping.clear();
-    BeginCommand(command, "[OPTIONS] [FIRST SECOND]", kFooter);
+    BeginCommand(command, "[OPTIONS] [FIRST SECOND]", kBetweenFooter);
     AddPairSource(command, arguments.source, {"FIRST", "the first date"}, {"SECOND", "the second date"});
 
     constexpr const char* kCounting = "Dates and counting";

@@ -5,7 +5,7 @@
 namespace calvoro {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kComputeFooter =
     R"(Which of the three boxes are filled decides the task: one date is converted into the
 calendar of the other box, two dates are counted from the first to the second, a date and a
 difference give the other date. With all boxes empty the first date is today. The result
@@ -48,7 +48,7 @@ void DeclareArguments(CLI::App& command, ComputeArguments& arguments) {
     ComputeRequest& request = arguments.request;
     ComputeOptions& options = request.options;
     options.verbose = false;
-    BeginCommand(command, "[OPTIONS]", kFooter);
+    BeginCommand(command, "[OPTIONS]", kComputeFooter);
 
     constexpr const char* kBoxes = "The three boxes";
     command.add_option("--first", request.first, "the first date")->group(kBoxes);

@@ -11,7 +11,7 @@
 namespace calvoro {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kConvertFooter =
     R"(Every date gives one line of output, in order; a refused one gives an empty line and a
 message with its source and line number. A day outside the years 1 to 9999 has no ordinal
 date: the date is refused when ORD is asked for by name, and its field is empty with
@@ -85,7 +85,7 @@ void DeclareArguments(CLI::App& command, ConvertArguments& arguments, const std:
     ConvertOptions& options = arguments.options;
     options.text.thousandsSeparator = kNoSeparator;
     options.text.digitGrouping.clear();
-    BeginCommand(command, "--from NOTATION --to NOTATION[,NOTATION...] [OPTIONS] [DATE...]", kFooter);
+    BeginCommand(command, "--from NOTATION --to NOTATION[,NOTATION...] [OPTIONS] [DATE...]", kConvertFooter);
     command.allow_extras();
 
     constexpr const char* kConversion = "Conversion";

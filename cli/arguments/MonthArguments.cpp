@@ -5,7 +5,7 @@
 namespace calvoro {
 namespace {
 
-constexpr const char* kFooter = R"(Without YEAR-MONTH the current month is printed.
+constexpr const char* kMonthFooter = R"(Without YEAR-MONTH the current month is printed.
 
 Exit status: 0 a month was printed; 1 the month is refused, or writing failed; 2 the
 arguments make no sense.
@@ -18,7 +18,7 @@ Examples:
 }  // namespace
 
 void DeclareArguments(CLI::App& command, MonthArguments& arguments) {
-    BeginCommand(command, "[OPTIONS] [YEAR-MONTH]", kFooter);
+    BeginCommand(command, "[OPTIONS] [YEAR-MONTH]", kMonthFooter);
     command
         .add_option_function<std::string>(
             "YEAR-MONTH", [&arguments](const std::string& text) { arguments.yearMonth = text; },

@@ -5,7 +5,7 @@
 namespace calvoro {
 namespace {
 
-constexpr const char* kFooter =
+constexpr const char* kTodayFooter =
     R"(Exit status: 0 the labels were printed; 1 writing failed; 2 the arguments make no sense.
 
 Examples:
@@ -16,7 +16,7 @@ Examples:
 }  // namespace
 
 void DeclareArguments(CLI::App& command, TodayArguments& arguments) {
-    BeginCommand(command, "[OPTIONS]", kFooter);
+    BeginCommand(command, "[OPTIONS]", kTodayFooter);
     AddChoice(command, "--calendar", kNotationChoices, arguments.calendar,
               "CE, ISO, JC, ORD, LPM, LPW, JDN (CE)")
         ->type_name("NOTATION");
