@@ -1,6 +1,7 @@
 #include "cli/DayReader.h"
 
 #include "datetext/AnyNotation.h"
+#include "datetext/Digits.h"
 #include "datetext/Tags.h"
 #include "quicktext/FaultText.h"
 
@@ -19,6 +20,11 @@ AutoResult DayReader::ReadLenient(std::string_view text) const {
     DateRecord record;
     const ParseStatus status = ReadDate(strict_.Notation(), text, options_, record);
     return {{status, ReadFault::None, record.jdn, 0}, strict_.Notation()};
+}
+
+bool MayStandInADate(char character, const TextOptions& options) {
+    return IsDigit(character) || std::string_view("-/.W").find(character) != std::string_view::npos ||
+           character == options.thousandsSeparator;
 }
 
 std::string RefusalText(const AutoResult& answer, std::string_view text) {

@@ -55,6 +55,9 @@ private:
     AutoReader auto_;
 };
 
+/// Whether a date in its usual form may hold a character: a digit, "W", or one that separates or groups.
+bool MayStandInADate(char character, const TextOptions& options);
+
 /// Why a text was refused, to stand in front of the text: "not valid in CE, unexpected 'O' at column 2".
 std::string RefusalText(const AutoResult& answer, std::string_view text);
 

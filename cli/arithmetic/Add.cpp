@@ -78,6 +78,7 @@ std::size_t Add::AnswerLines(std::string_view block, OutputStream& output, std::
     const CalendarNumber notation = options_.dates.from;
     const bool isRefused = options_.unit == DifferenceUnit::Months && !HasMonths(notation);
     if (isRefused || Room() >= OutputStream::kBlockSize) return 0;
+    if (MayStandInADate(options_.delimiter, options_.dates.text)) return 0;
     std::size_t at = 0;
     while (block.size() - at >= DayReader::kLineRoom + kPlainNumberRoom) {
         const char* const line = block.data() + at;

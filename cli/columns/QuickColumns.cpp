@@ -33,13 +33,6 @@ char* Copy(const char* from, const char* end, const char* blockEnd, char* to) {
     return to + (end - from);
 }
 
-// A date in its usual form is digits, "W" and separators.
-bool MayStandInADate(char delimiter, const TextOptions& options) {
-    const bool isDigit = delimiter >= '0' && delimiter <= '9';
-    return isDigit || std::string_view("-/.W").find(delimiter) != std::string_view::npos ||
-           delimiter == options.thousandsSeparator;
-}
-
 bool AreDistinct(std::vector<std::size_t> fields) {
     std::sort(fields.begin(), fields.end());
     return std::adjacent_find(fields.begin(), fields.end()) == fields.end();
