@@ -59,7 +59,26 @@ void InputTextBox::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
+void InputTextBox::OfferLists(const QString& fromClipboard, const QString& fromFile) {
+    listFromClipboard_ = fromClipboard;
+    listFromFile_ = fromFile;
+}
+
+bool InputTextBox::IsList(const QString& text) const {
+    return !listFromClipboard_.isEmpty() && HasSeveralLines(text);
+}
+
 void InputTextBox::dropEvent(QDropEvent* event) {
+    const std::optional<GivenList> given = GivenListOf(event->mimeData());
+    if (given && (!given->path.isEmpty() || IsList(given->text))) {
+        QDragLeaveEvent leave;  // takes the caret away that marks the place of the drop
+        LineBox::dragLeaveEvent(&leave);
+        // What is dragged stays where it is.
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        Q_EMIT ListGiven(*given);
+        return;
+    }
     const QString text = event->mimeData()->text();
     const QString trimmed = WithoutLeftOvers(text);
     if (trimmed.size() == text.size()) {
@@ -85,11 +104,22 @@ void InputTextBox::contextMenuEvent(QContextMenuEvent* event) {
         disconnect(action, &QAction::triggered, this, nullptr);
         connect(action, &QAction::triggered, this, [this] { Paste(QClipboard::Clipboard); });
     }
+    if (!listFromClipboard_.isEmpty()) {
+        menu->addSeparator();
+        connect(menu->addAction(listFromClipboard_), &QAction::triggered, this,
+                &InputTextBox::ListFromClipboardWanted);
+        connect(menu->addAction(listFromFile_), &QAction::triggered, this, &InputTextBox::ListFromFileWanted);
+    }
     menu->popup(event->globalPos());
 }
 
 void InputTextBox::Paste(QClipboard::Mode mode) {
-    const QString text = WithoutLeftOvers(QGuiApplication::clipboard()->text(mode));
+    const QString pasted = QGuiApplication::clipboard()->text(mode);
+    if (IsList(pasted)) {
+        Q_EMIT ListGiven({pasted, QString()});
+        return;
+    }
+    const QString text = WithoutLeftOvers(pasted);
     if (!text.isEmpty() || hasSelectedText()) insert(text);
 }
 

@@ -11,6 +11,7 @@
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
+#include "windows/frmList.h"
 #include "windows/frmPopUp.h"
 
 namespace calvoro {
@@ -48,8 +49,13 @@ std::string_view LongestLine(std::string_view text) {
 }  // namespace
 
 SecondaryWindows::SecondaryWindows(QWidget& mainWindow, const Platform& platform,
-                                   const WebAddresses& addresses, MainState& state)
-    : mainWindow_(mainWindow), platform_(platform), addresses_(addresses), state_(state) {}
+                                   const WebAddresses& addresses, MainState& state,
+                                   const ListRowSource& listRows)
+    : mainWindow_(mainWindow),
+      platform_(platform),
+      addresses_(addresses),
+      state_(state),
+      listRows_(listRows) {}
 
 SecondaryWindows::~SecondaryWindows() = default;
 
@@ -96,6 +102,15 @@ void SecondaryWindows::ShowMonth(std::int32_t year, std::int32_t month, Calendar
     month_->ShowMonth(std::to_string(year), month, calendar);
 }
 
+frmList& SecondaryWindows::List() {
+    if (!list_) list_ = std::make_unique<frmList>(platform_, state_.texts, listRows_, mainWindow_);
+    return *list_;
+}
+
+void SecondaryWindows::RefreshList() {
+    if (list_) list_->Refresh();
+}
+
 std::optional<InputBox> SecondaryWindows::AskWhichBoxToClear() {
     if (!clearOne_) clearOne_ = std::make_unique<frmClearOneTextBox>(mainWindow_, state_.texts);
     return clearOne_->Ask();
@@ -119,6 +134,8 @@ void SecondaryWindows::SetLanguageDependentText() {
     if (month_) month_->SetLanguageDependentText();
     if (help_) help_->SetLanguageDependentText();
     if (large_) large_->SetLanguageDependentText();
+    if (list_) list_->SetLanguageDependentText();
+    RefreshList();
 }
 
 }  // namespace calvoro

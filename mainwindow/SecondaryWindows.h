@@ -23,12 +23,15 @@ class frmClearOneTextBox;
 class frmDisplayMonth;
 class frmHelp;
 class frmLargeDisplay;
+class frmList;
+class ListRowSource;
 class frmPopUp;
 
 class SecondaryWindows {
 public:
+    /// listRows  computes the rows of the list window; must outlive these windows
     SecondaryWindows(QWidget& mainWindow, const Platform& platform, const WebAddresses& addresses,
-                     MainState& state);
+                     MainState& state, const ListRowSource& listRows);
     ~SecondaryWindows();
 
     SecondaryWindows(const SecondaryWindows&) = delete;
@@ -47,6 +50,12 @@ public:
     /// calendar  CE or JC
     void ShowMonth(std::int32_t year, std::int32_t month, CalendarNumber calendar);
 
+    /// The list window, which is not shown by this.
+    frmList& List();
+
+    /// Tells the list window, if there is one, that an option or a box has changed.
+    void RefreshList();
+
     /// Asks which box to empty; nothing when the user cancels.
     std::optional<InputBox> AskWhichBoxToClear();
 
@@ -62,6 +71,7 @@ private:
     const Platform& platform_;
     const WebAddresses& addresses_;
     MainState& state_;
+    const ListRowSource& listRows_;
 
     // What the month window will start with.
     WeekStart monthWeekStart_ = Settings().monthWeekStart;
@@ -71,6 +81,7 @@ private:
     std::unique_ptr<frmDisplayMonth> month_;
     std::unique_ptr<frmHelp> help_;
     std::unique_ptr<frmLargeDisplay> large_;
+    std::unique_ptr<frmList> list_;
     std::unique_ptr<frmPopUp> popUp_;
 };
 

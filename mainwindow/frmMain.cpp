@@ -37,7 +37,8 @@ frmMain::frmMain(const Platform& platform, WebAddresses addresses)
                                          GetProgramText(kSettingsFolderText, LanguageEnglish))),
       controls_(this),
       options_(controls_, platform_.digitGrouping),
-      windows_(*this, platform_, addresses_, state_),
+      listRows_(boxes_, options_, state_),
+      windows_(*this, platform_, addresses_, state_, listRows_),
       boxes_(controls_, options_, state_, platform_),
       todayLine_(controls_, options_, state_, platform_.clock),
       output_(controls_, state_, platform_, boxes_, windows_),
@@ -51,6 +52,7 @@ frmMain::frmMain(const Platform& platform, WebAddresses addresses)
       spinners_(controls_, boxes_, computeWindow_),
       inputKeys_(this, controls_, options_),
       reading_(this, controls_, options_, state_),
+      listWays_(this, controls_, windows_),
       toolkitWords_(QLibraryInfo::path(QLibraryInfo::TranslationsPath)),
       announcer_(new Announcer(this)) {
     setObjectName(QStringLiteral("frmMain"));
@@ -169,6 +171,7 @@ void frmMain::SetLanguageDependentText() {
     SetCaptions(controls_, state_.texts);
     SetExampleCaptions(controls_, state_.texts, options_.ReadTextOptions());
     windows_.SetLanguageDependentText();
+    listWays_.SetLanguageDependentText(state_.texts.InterfaceLanguage);
     toolkitWords_.Follow(state_.texts.InterfaceLanguage);
     reading_.Refresh();
 }

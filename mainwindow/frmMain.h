@@ -11,6 +11,8 @@
 #include "mainwindow/DateSpinners.h"
 #include "mainwindow/InputBoxes.h"
 #include "mainwindow/InputKeys.h"
+#include "mainwindow/ListRows.h"
+#include "mainwindow/ListWays.h"
 #include "mainwindow/MainComputeWindow.h"
 #include "mainwindow/MainControls.h"
 #include "mainwindow/MainState.h"
@@ -96,6 +98,7 @@ private:
     MainControls controls_;
     MainState state_;
     WindowOptions options_;
+    ListRows listRows_;
     SecondaryWindows windows_;
     InputBoxes boxes_;
     TodayLine todayLine_;
@@ -106,6 +109,7 @@ private:
     // Members, not children: children are deleted when the controls are no longer known.
     InputKeys inputKeys_;
     ReadingLine reading_;
+    ListWays listWays_;
     ToolkitWords toolkitWords_;
     Announcer* announcer_;
 };

@@ -8,6 +8,7 @@
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
+#include "windows/frmList.h"
 
 using namespace calvoro;
 
@@ -74,6 +75,8 @@ private Q_SLOTS:
         main.Click(u"cmdEnlarge"_s);
         main.Click(u"cmdHelp"_s);
         main.Click(u"cmdDisplayMonth"_s);
+        main.Activate();
+        main.Press(Qt::Key_L, Qt::ControlModifier);
         const auto check = [](QWidget& window, const QString& title) {
             QCOMPARE(Of(window).role(), QAccessible::Window);
             QCOMPARE(Of(window).text(QAccessible::Name), title);
@@ -82,6 +85,25 @@ private Q_SLOTS:
         check(*OpenedWindow<frmDisplayMonth>(), u"Display month"_s);
         check(*OpenedWindow<frmHelp>(), u"Calvoro Help"_s);
         check(*OpenedWindow<frmLargeDisplay>(), u"Output window"_s);
+        check(*OpenedWindow<frmList>(), u"Calvoro List"_s);
+    }
+
+    void TheListIsATableWithItsHeads() {
+        MainWindowFixture main;
+        main.Start();
+        main.Press(Qt::Key_L, Qt::ControlModifier);
+        auto* list = OpenedWindow<frmList>();
+        list->Show({u"2024-02-29\nx\n"_s, QString()}, ListSide::FirstDates);
+        QAccessibleInterface& table = Of(*list->findChild<QWidget*>(u"tblList"_s));
+        QCOMPARE(table.role(), QAccessible::Table);
+        QCOMPARE(table.text(QAccessible::Name), u"List"_s);
+        QVERIFY(!table.text(QAccessible::Description).isEmpty());
+        QAccessibleTableInterface* cells = table.tableInterface();
+        QVERIFY(cells != nullptr);
+        QCOMPARE(cells->rowCount(), 2);
+        QCOMPARE(cells->columnDescription(1), u"Read as"_s);
+        QCOMPARE(cells->cellAt(0, 3)->text(QAccessible::Name), u"Thursday"_s);
+        QCOMPARE(Of(*list->findChild<QWidget*>(u"fraLinesAre"_s)).text(QAccessible::Name), u"The lines are"_s);
     }
 
     void EveryGroupHasAName_data() {

@@ -7,6 +7,7 @@
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
+#include "windows/frmList.h"
 
 using namespace calvoro;
 
@@ -121,6 +122,20 @@ private Q_SLOTS:
         CheckRound(Names("txbMsg cmdClose"));
     }
 
+    void TabOrderOfTheListWindow() {
+        MainWindowFixture main;
+        main.Start();
+        main.Press(Qt::Key_L, Qt::ControlModifier);
+        auto* list = OpenedWindow<frmList>();
+        QVERIFY(QTest::qWaitForWindowActive(list));
+        QCOMPARE(main.Focused(), "tblList");
+        CheckRound(Names("tblList chkWithGiven cmdClose optLinesAreFirst cmdPaste cmdOpen"));
+        list->Show({"2024-02-29\n", {}}, ListSide::FirstDates);
+        CheckRound(
+            Names("tblList chkRefusalsOnly chkByDay cmdNextRefusal chkWithGiven cmdCopySelected cmdCopyAll "
+                  "cmdSaveAs cmdClose optLinesAreFirst cmdPaste cmdOpen"));
+    }
+
     void TabOrderOfTheClearDialog() {
         MainWindowFixture main;
         main.Start();
@@ -171,6 +186,13 @@ private Q_SLOTS:
         auto* enlarged = OpenedWindow<frmLargeDisplay>();
         QVERIFY(QTest::qWaitForWindowActive(enlarged));
         CheckFocusIsSeen(*enlarged, 3);
+
+        main.Activate();
+        main.Press(Qt::Key_L, Qt::ControlModifier);
+        auto* list = OpenedWindow<frmList>();
+        QVERIFY(QTest::qWaitForWindowActive(list));
+        list->Show({"2024-02-29\n", {}}, ListSide::FirstDates);
+        CheckFocusIsSeen(*list, 13);
 
         main.Activate();
         main.Fill("2024-02-29", "7", "2024-03-01");

@@ -8,6 +8,7 @@
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
+#include "windows/frmList.h"
 
 using namespace calvoro;
 
@@ -166,6 +167,29 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         CheckReachable(large, checked);
         QVERIFY(checked > 3);
+    }
+
+    void ListWindow_data() { Rows(); }
+    void ListWindow() {
+        MainWindowFixture main;
+        StartAsTheRowSays(main);
+        main.Press(Qt::Key_L, Qt::ControlModifier);
+        auto& list = static_cast<frmList&>(Open<frmList>());
+        QCoreApplication::processEvents();
+        int checked = 0;
+        CheckReachable(list, checked);
+        if (QTest::currentTestFailed()) return;
+        list.Show({u"2024-02-29\tx\n"_s, QString()}, ListSide::FirstDates);
+        list.findChild<QWidget*>(u"cmdStop"_s)->show();
+        list.findChild<QWidget*>(u"prgJob"_s)->show();
+        list.findChild<QWidget*>(u"cmdEarlier"_s)->show();
+        list.findChild<QWidget*>(u"cmdLater"_s)->show();
+        QCoreApplication::processEvents();
+        CheckReachable(list, checked);
+        QVERIFY(checked > 50);
+        list.resize(1, 1);
+        QCoreApplication::processEvents();
+        CheckReachable(list, checked);
     }
 
     void ClearOneDialog_data() { Rows(); }

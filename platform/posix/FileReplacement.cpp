@@ -1,0 +1,133 @@
+#include "platform/FileReplacement.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/WriteAll.h"
+
+namespace calvoro {
+namespace {
+
+/// While one lives, writing beyond the limit on the size of files is an error and not the program's end.
+class NoFileSizeSignal {
+public:
+    NoFileSizeSignal() {
+        struct sigaction ignore {};
+        ignore.sa_handler = SIG_IGN;
+        ::sigaction(SIGXFSZ, &ignore, &previous_);
+    }
+    ~NoFileSizeSignal() { ::sigaction(SIGXFSZ, &previous_, nullptr); }
+    NoFileSizeSignal(const NoFileSizeSignal&) = delete;
+    NoFileSizeSignal& operator=(const NoFileSizeSignal&) = delete;
+
+private:
+    struct sigaction previous_ {};
+};
+
+/// Where a path leads, also when the file at the end of its links is still to be made.
+std::filesystem::path WithLinksResolved(const std::string& path) {
+    constexpr int kMostLinks = 40;
+    std::error_code failed;
+    std::filesystem::path target(path);
+    for (int links = 0; links < kMostLinks; ++links) {
+        const std::filesystem::path next = std::filesystem::read_symlink(target, failed);
+        if (failed) return target;
+        target = target.parent_path() / next;
+    }
+    return target;
+}
+
+// What the system gives to a file that a program makes.
+mode_t UsualPermissions() {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+/// For root every file can be written, so the file's own word counts too.
+int WhyNotReplaceable(const std::string& path, const struct stat& status) {
+    constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
+    if (S_ISDIR(status.st_mode)) return EISDIR;
+    if (!S_ISREG(status.st_mode)) return EINVAL;
+    if ((status.st_mode & kAnyWriter) == 0) return EACCES;
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+class FileReplacement::File {
+public:
+    explicit File(const std::string& path) : target_(WithLinksResolved(path).string()) {
+        struct stat old {};
+        mode_t permissions = UsualPermissions();
+        if (::stat(target_.c_str(), &old) == 0) {
+            error_ = WhyNotReplaceable(target_, old);
+            permissions = old.st_mode & 07777;
+        } else if (errno != ENOENT) {
+            error_ = errno;
+        }
+        if (error_ != 0) return;
+        // A name that nothing has: what stands beside the file may be the user's.
+        written_ = target_ + ".XXXXXX";
+        descriptor_ = ::mkostemp(written_.data(), O_CLOEXEC);
+        if (descriptor_ < 0 || ::fchmod(descriptor_, permissions) != 0) error_ = errno;
+    }
+
+    ~File() {
+        if (descriptor_ < 0) return;
+        ::close(descriptor_);
+        if (!committed_) ::unlink(written_.c_str());
+    }
+
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    void Write(std::string_view bytes) {
+        if (error_ != 0) return;
+        const NoFileSizeSignal noSignal;
+        error_ = WriteAll(descriptor_, bytes);
+    }
+
+    void Commit() {
+        if (error_ != 0) return;
+        // Some file systems have nothing to flush and say so with EINVAL.
+        const bool isFlushed = ::fsync(descriptor_) == 0 || errno == EINVAL;
+        committed_ = isFlushed && std::rename(written_.c_str(), target_.c_str()) == 0;
+        if (!committed_) error_ = errno;
+    }
+
+    int Error() const { return error_; }
+
+private:
+    std::string target_;
+    std::string written_;
+    int descriptor_ = -1;
+    int error_ = 0;
+    bool committed_ = false;
+};
+
+FileReplacement::FileReplacement(const std::string& path) : file_(std::make_unique<File>(path)) {}
+
+FileReplacement::~FileReplacement() = default;
+
+void FileReplacement::Write(std::string_view bytes) {
+    file_->Write(bytes);
+}
+
+void FileReplacement::Commit() {
+    file_->Commit();
+}
+
+int FileReplacement::Error() const {
+    return file_->Error();
+}
+
+}  // namespace calvoro

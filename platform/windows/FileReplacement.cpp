@@ -1,0 +1,119 @@
+#include "platform/FileReplacement.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+
+#include "platform/windows/WideText.h"
+
+namespace calvoro {
+namespace {
+
+int ErrorNumberOf(DWORD error) {
+    switch (error) {
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_PATH_NOT_FOUND: return ENOENT;
+        case ERROR_ACCESS_DENIED:
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_WRITE_PROTECT: return EACCES;
+        case ERROR_DISK_FULL:
+        case ERROR_HANDLE_DISK_FULL: return ENOSPC;
+        default: return EIO;
+    }
+}
+
+// returns  0 for a name that is free, or that of an ordinary file that may be written
+int WhyNotReplaceable(const std::wstring& path) {
+    const DWORD attributes = ::GetFileAttributesW(path.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        const DWORD error = ::GetLastError();
+        return error == ERROR_FILE_NOT_FOUND ? 0 : ErrorNumberOf(error);
+    }
+    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return EISDIR;
+    return (attributes & (FILE_ATTRIBUTE_DEVICE | FILE_ATTRIBUTE_READONLY)) != 0 ? EACCES : 0;
+}
+
+}  // namespace
+
+class FileReplacement::File {
+public:
+    explicit File(const std::string& path) : target_(WideText(path)), error_(WhyNotReplaceable(target_)) {
+        // A name that nothing has: what stands beside the file may be the user's.
+        for (int attempt = 0; error_ == 0 && handle_ == INVALID_HANDLE_VALUE; ++attempt) {
+            written_ = target_ + L"." + std::to_wstring(::GetTickCount64() + static_cast<ULONGLONG>(attempt));
+            handle_ = ::CreateFileW(written_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+            const DWORD error = ::GetLastError();
+            constexpr int kAttempts = 100;
+            if (handle_ == INVALID_HANDLE_VALUE && (error != ERROR_FILE_EXISTS || attempt == kAttempts)) {
+                error_ = ErrorNumberOf(error);
+            }
+        }
+    }
+
+    ~File() {
+        if (handle_ == INVALID_HANDLE_VALUE && (error_ == 0 || !made_)) return;
+        Close();
+        ::DeleteFileW(written_.c_str());
+    }
+
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    void Write(std::string_view bytes) {
+        constexpr std::size_t kMostAtOnce = std::size_t{1024} * 1024 * 1024;
+        while (error_ == 0 && !bytes.empty()) {
+            DWORD written = 0;
+            const auto most = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
+            if (::WriteFile(handle_, bytes.data(), most, &written, nullptr) == 0) {
+                error_ = ErrorNumberOf(::GetLastError());
+            }
+            bytes.remove_prefix(written);
+        }
+    }
+
+    void Commit() {
+        if (error_ != 0) return;
+        constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        made_ = true;
+        if (::FlushFileBuffers(handle_) == 0 || !Close() ||
+            ::MoveFileExW(written_.c_str(), target_.c_str(), kHow) == 0) {
+            error_ = ErrorNumberOf(::GetLastError());
+        }
+    }
+
+    int Error() const { return error_; }
+
+private:
+    bool Close() {
+        const HANDLE handle = handle_;
+        handle_ = INVALID_HANDLE_VALUE;
+        return handle == INVALID_HANDLE_VALUE || ::CloseHandle(handle) != 0;
+    }
+
+    std::wstring target_;
+    std::wstring written_;
+    HANDLE handle_ = INVALID_HANDLE_VALUE;
+    int error_ = 0;
+    bool made_ = false;  // and closed, so that its handle tells no more that it is there
+};
+
+FileReplacement::FileReplacement(const std::string& path) : file_(std::make_unique<File>(path)) {}
+
+FileReplacement::~FileReplacement() = default;
+
+void FileReplacement::Write(std::string_view bytes) {
+    file_->Write(bytes);
+}
+
+void FileReplacement::Commit() {
+    file_->Commit();
+}
+
+int FileReplacement::Error() const {
+    return file_->Error();
+}
+
+}  // namespace calvoro
