@@ -1,8 +1,8 @@
 #pragma once
 
 // The line of an input box. What is pasted or dropped into it loses the line ends, tabs and blanks at its
-// two ends: they could not be seen, and no reader takes them. What is more than one date is handed on as a list,
-// and the box keeps its text.
+// two ends: they could not be seen, and no reader takes them. What is more than one date is handed on as a
+// list, and the box keeps its text.
 
 #include <QClipboard>
 
@@ -17,9 +17,8 @@ class InputTextBox : public LineBox {
 public:
     explicit InputTextBox(QWidget* parent);
 
-    /// Makes this the box of a date, which texts of more than one line are not put into, and whose menu offers
-    /// lists.
-    /// fromClipboard, fromFile  the captions in the menu
+    /// Makes this the box of a date, which texts of more than one line are not put into, and whose menu
+    /// offers lists. fromClipboard, fromFile  the captions in the menu
     void OfferLists(const QString& fromClipboard, const QString& fromFile);
 
 Q_SIGNALS:

@@ -1,7 +1,7 @@
 #pragma once
 
-// The ways from the main window into the list window: what is pasted into a date box or dropped on the window,
-// the menus of the date boxes, Ctrl+L. Tells the list window of every change that its rows depend on.
+// The ways from the main window into the list window: what is pasted into a date box or dropped on the
+// window, the menus of the date boxes, Ctrl+L. Tells the list window of every change that its rows depend on.
 
 #include <QObject>
 

@@ -3,7 +3,6 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDropEvent>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QShortcut>
@@ -16,6 +15,7 @@
 #include "windows/Placement.h"
 #include "windows/QtText.h"
 #include "windows/Twips.h"
+#include "windows/list/FileQuestions.h"
 #include "windows/list/lines/ListFile.h"
 #include "windows/list/lines/ListSearch.h"
 #include "windows/list/lines/ListToFile.h"
@@ -49,7 +49,7 @@ frmList::frmList(const Platform& platform, const Texts& texts, const ListRowSour
     AddKeys();
     SetLanguageDependentText();
     ui_.SetColumnWidths(contents_->Model());
-    FollowRows();
+    ui_.FollowRows(contents_->Model());
     resize(sizeHint().boundedTo(RoomOnScreen(*this)));
 }
 
@@ -64,7 +64,7 @@ void frmList::ConnectControls() {
 
     connect(ui_.optLinesAreFirst, &QRadioButton::toggled, this, [this](bool first) {
         contents_->SetSide(first ? ListSide::FirstDates : ListSide::SecondDates);
-        SetHeads();
+        ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
         Rearrange();
         ShowState();
     });
@@ -80,8 +80,9 @@ void frmList::ConnectControls() {
     connect(ui_.cmdLater, &QPushButton::clicked, this, [this] { OnOtherPart(true); });
     connect(ui_.cmdStop, &QPushButton::clicked, this, &frmList::OnStop);
     connect(ui_.cmdNextRefusal, &QPushButton::clicked, this, &frmList::OnNextRefusal);
-    connect(ui_.cmdCopySelected, &QPushButton::clicked, this, [this] { OnCopy(SelectedPlaces()); });
-    connect(ui_.cmdCopyAll, &QPushButton::clicked, this, [this] { OnCopy(AllPlaces()); });
+    connect(ui_.cmdCopySelected, &QPushButton::clicked, this,
+            [this] { OnCopy(SelectedPlaces(*ui_.tblList, contents_->Model())); });
+    connect(ui_.cmdCopyAll, &QPushButton::clicked, this, [this] { OnCopy(AllPlaces(contents_->Model())); });
     connect(ui_.cmdSaveAs, &QPushButton::clicked, this, &frmList::OnSaveAs);
     connect(ui_.cmdClose, &QPushButton::clicked, this, &QWidget::close);
 }
@@ -141,15 +142,13 @@ void frmList::ShowClipboard(ListSide side) {
 
 void frmList::ShowChosenFile(ListSide side) {
     BringUp();
-    QFileDialog dialog(this, ToQt(Words().openTitle));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-    Show({QString(), dialog.selectedFiles().first()}, side);
+    const std::optional<std::string> path = AskWhatToOpen(*this, Words());
+    if (path) Show({QString(), ToQt(*path)}, side);
 }
 
 void frmList::Refresh() {
     contents_->Refresh();
-    SetHeads();
+    ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
     Rearrange();
     ShowState();
 }
@@ -157,7 +156,7 @@ void frmList::Refresh() {
 void frmList::SetLanguageDependentText() {
     setWindowTitle(ToQt(Words().title));
     ui_.SetCaptions(texts_);
-    SetHeads();
+    ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
     ShowState();
 }
 
@@ -232,13 +231,13 @@ void frmList::ShowLines(std::shared_ptr<const ListLines> lines, ListSide side) {
     (side == ListSide::FirstDates ? ui_.optLinesAreFirst : ui_.optLinesAreSecond)->setChecked(true);
 
     contents_->Show(std::move(lines), side);
-    SetHeads();
+    ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
     ui_.SetColumnWidths(contents_->Model());
-    FollowRows();
+    ui_.FollowRows(contents_->Model());
     ui_.tblList->setFocus();
     GoTo(0);
     ShowState();
-    announcer_->Announce(StateText());
+    announcer_->Announce(StateText(*contents_->Survey(), Words()));
 }
 
 // The rows that are shown depend on the options, but for a plain arrangement.
@@ -250,7 +249,8 @@ void frmList::Rearrange() {
     if (doing_ == Doing::Arranging) runner_->Stop();
     const Arrangement arrangement{ui_.chkRefusalsOnly->isChecked(), ui_.chkByDay->isChecked()};
     if (const std::shared_ptr<OrderRows> job = contents_->Arrange(arrangement)) {
-        Begin(job, [this, job] { ShowOrder(job->Take()); }, Doing::Arranging);
+        Begin(
+            job, [this, job] { ShowOrder(job->Take()); }, Doing::Arranging);
     } else if (contents_->Model().Order()) {
         ShowOrder({});
     }
@@ -276,7 +276,7 @@ void frmList::ShowOrder(RowOrder order) {
         place = found == order->end() ? 0 : static_cast<std::uint32_t>(found - order->begin());
     }
     model.SetOrder(std::move(order));
-    FollowRows();
+    ui_.FollowRows(contents_->Model());
     if (model.Places() > 0) GoTo(place);
     ShowState();
 }
@@ -286,7 +286,7 @@ void frmList::OnColumnChosen(int column) {
     const auto chosen = static_cast<std::size_t>(column);
     if (column >= model.GivenColumns() || chosen == model.Sheet().dateColumn) return;
     contents_->SetDateColumn(chosen);
-    SetHeads();
+    ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
     Rearrange();
     ShowState();
 }
@@ -310,8 +310,9 @@ void frmList::OnNextRefusal() {
 void frmList::OnCopy(std::vector<PlaceRange> ranges) {
     if (ranges.empty()) return;
     const OutputForm form{.csv = false, .withGiven = ui_.chkWithGiven->isChecked()};
-    const auto copy = std::make_shared<ListToText>(
-        contents_->Sheet(), ChosenRows{contents_->Model().Order(), std::move(ranges)}, form, kMostOnClipboard);
+    const auto copy = std::make_shared<ListToText>(contents_->Sheet(),
+                                                   ChosenRows{contents_->Model().Order(), std::move(ranges)},
+                                                   form, kMostOnClipboard);
     const auto done = [this, copy] {
         if (copy->IsTooLong()) {
             Tell(std::string(Words().tooMuchForClipboard));
@@ -325,26 +326,16 @@ void frmList::OnCopy(std::vector<PlaceRange> ranges) {
 }
 
 void frmList::OnSaveAs() {
-    const std::vector<PlaceRange> ranges = AllPlaces();
-    if (ranges.empty()) return;
-    const ListWords& words = Words();
-    QFileDialog dialog(this, ToQt(words.saveTitle));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    const QString tsv = ToQt(words.tabSeparated) + QStringLiteral(" (*.tsv *.txt)");
-    const QString csv = ToQt(words.csv) + QStringLiteral(" (*.csv)");
-    dialog.setNameFilters({tsv, csv});
-    dialog.setDefaultSuffix(QStringLiteral("tsv"));
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog, csv](const QString& filter) {
-        dialog.setDefaultSuffix(filter == csv ? QStringLiteral("csv") : QStringLiteral("tsv"));
-    });
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
-    Save(FromQt(dialog.selectedFiles().first()));
+    if (contents_->Model().Places() == 0) return;
+    const std::optional<std::string> path = AskWhereToSave(*this, Words());
+    if (path) Save(*path);
 }
 
 void frmList::Save(const std::string& path) {
     const OutputForm form{.csv = IsCsvName(path), .withGiven = ui_.chkWithGiven->isChecked()};
     const auto save = std::make_shared<ListToFile>(
-        contents_->Sheet(), ChosenRows{contents_->Model().Order(), AllPlaces()}, form, path);
+        contents_->Sheet(), ChosenRows{contents_->Model().Order(), AllPlaces(contents_->Model())}, form,
+        path);
     const auto done = [this, save, path] {
         if (save->Error() != 0) {
             Tell(NotSavedMessage(path, save->Error(), Words()));
@@ -366,25 +357,7 @@ void frmList::OnStop() {
 void frmList::OnOtherPart(bool later) {
     ListModel& model = contents_->Model();
     GoTo(later ? model.PartBegin() + ListModel::kRowsInPart : model.PartBegin() - ListModel::kRowsInPart);
-    FollowRows();
-}
-
-std::vector<PlaceRange> frmList::AllPlaces() const {
-    const std::uint32_t places = contents_->Model().Places();
-    if (places == 0) return {};
-    return {{0, places - 1}};
-}
-
-std::vector<PlaceRange> frmList::SelectedPlaces() const {
-    const std::uint32_t begin = contents_->Model().PartBegin();
-    std::vector<PlaceRange> ranges;
-    for (const QItemSelectionRange& range : ui_.tblList->selectionModel()->selection()) {
-        ranges.push_back({begin + static_cast<std::uint32_t>(range.top()),
-                          begin + static_cast<std::uint32_t>(range.bottom())});
-    }
-    std::sort(ranges.begin(), ranges.end(),
-              [](const PlaceRange& one, const PlaceRange& other) { return one.first < other.first; });
-    return ranges;
+    ui_.FollowRows(contents_->Model());
 }
 
 std::uint32_t frmList::CurrentPlace() const {
@@ -402,53 +375,8 @@ void frmList::GoTo(std::uint32_t place) {
     ui_.tblList->scrollTo(index);
 }
 
-// What depends on which rows there are.
-void frmList::FollowRows() {
-    const ListModel& model = contents_->Model();
-    const bool hasRows = model.Places() > 0;
-    for (QWidget* control : {static_cast<QWidget*>(ui_.cmdCopyAll), static_cast<QWidget*>(ui_.cmdSaveAs),
-                             static_cast<QWidget*>(ui_.cmdNextRefusal)}) {
-        control->setEnabled(hasRows);
-    }
-    for (QCheckBox* box : {ui_.chkRefusalsOnly, ui_.chkByDay}) box->setEnabled(!contents_->IsEmpty());
-    ui_.cmdCopySelected->setEnabled(ui_.tblList->selectionModel()->hasSelection());
-    const bool hasParts = model.Places() > ListModel::kRowsInPart;
-    ui_.cmdEarlier->setVisible(hasParts);
-    ui_.cmdLater->setVisible(hasParts);
-    ui_.cmdEarlier->setEnabled(model.PartBegin() > 0);
-    ui_.cmdLater->setEnabled(model.Places() - model.PartBegin() > ListModel::kRowsInPart);
-}
-
-// What depends on the options and the side.
-void frmList::SetHeads() {
-    const ListWords& words = Words();
-    ListModel& model = contents_->Model();
-    const bool first = contents_->Side() == ListSide::FirstDates;
-    model.SetCaptions({.date = ToQt(texts_.Shown(first ? TextId::FirstDate : TextId::SecondDate)),
-                       .column = ToQt(words.column),
-                       .reading = ToQt(words.reading),
-                       .result = ToQt(words.result),
-                       .weekday = ToQt(words.weekday),
-                       .reason = ToQt(words.reason)});
-    for (int column = 0; column < model.columnCount(); ++column) {
-        const bool hidden =
-            column == model.Column(ComputedColumn::Weekday) && !model.Sheet().maker->HasWeekdays();
-        ui_.tblList->setColumnHidden(column, hidden);
-    }
-}
-
-std::string frmList::StateText() const {
-    if (contents_->IsEmpty()) return std::string(Words().howTo);
-    const ListWords& words = Words();
-    const ListSurvey& survey = *contents_->Survey();
-    std::string text = Counted(survey.Count(), words.line, words.lines, words);
-    text.append(", ").append(Counted(survey.Refusals(), words.refusal, words.refusals, words));
-    if (!survey.IsComplete()) text.append(" ").append(words.soFar);
-    return text;
-}
-
 void frmList::ShowState() {
-    std::string text = StateText();
+    std::string text = StateText(*contents_->Survey(), Words());
     if (!note_.empty()) text.append(" - ").append(note_);
     ui_.lblState->setText(ToQt(text));
 }

@@ -81,13 +81,8 @@ private:
     void OnEnded();
     void OnOtherPart(bool later);
 
-    std::vector<PlaceRange> AllPlaces() const;
-    std::vector<PlaceRange> SelectedPlaces() const;
     std::uint32_t CurrentPlace() const;
     void GoTo(std::uint32_t place);
-    void FollowRows();
-    void SetHeads();
-    std::string StateText() const;
     void ShowState();
     std::string DoneText(std::string_view what, std::uint64_t rows) const;
     void Note(const std::string& note);

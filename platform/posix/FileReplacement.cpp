@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "platform/WriteAll.h"
 
@@ -78,14 +79,10 @@ public:
         // A name that nothing has: what stands beside the file may be the user's.
         written_ = target_ + ".XXXXXX";
         descriptor_ = ::mkostemp(written_.data(), O_CLOEXEC);
-        if (descriptor_ < 0 || ::fchmod(descriptor_, permissions) != 0) error_ = errno;
+        if (descriptor_ < 0 || ::fchmod(descriptor_, permissions) != 0) GiveUp(errno);
     }
 
-    ~File() {
-        if (descriptor_ < 0) return;
-        ::close(descriptor_);
-        if (!committed_) ::unlink(written_.c_str());
-    }
+    ~File() { GiveUp(error_); }
 
     File(const File&) = delete;
     File& operator=(const File&) = delete;
@@ -93,25 +90,36 @@ public:
     void Write(std::string_view bytes) {
         if (error_ != 0) return;
         const NoFileSizeSignal noSignal;
-        error_ = WriteAll(descriptor_, bytes);
+        const int error = WriteAll(descriptor_, bytes);
+        if (error != 0) GiveUp(error);
     }
 
     void Commit() {
         if (error_ != 0) return;
         // Some file systems have nothing to flush and say so with EINVAL.
         const bool isFlushed = ::fsync(descriptor_) == 0 || errno == EINVAL;
-        committed_ = isFlushed && std::rename(written_.c_str(), target_.c_str()) == 0;
-        if (!committed_) error_ = errno;
+        if (!isFlushed || std::rename(written_.c_str(), target_.c_str()) != 0) {
+            GiveUp(errno);
+            return;
+        }
+        ::close(std::exchange(descriptor_, -1));
     }
 
     int Error() const { return error_; }
 
 private:
+    // Leaves nothing of what was written, which is in the way of a full disk.
+    void GiveUp(int error) {
+        error_ = error;
+        if (descriptor_ < 0) return;
+        ::unlink(written_.c_str());
+        ::close(std::exchange(descriptor_, -1));
+    }
+
     std::string target_;
     std::string written_;
-    int descriptor_ = -1;
+    int descriptor_ = -1;  // while it is being written
     int error_ = 0;
-    bool committed_ = false;
 };
 
 FileReplacement::FileReplacement(const std::string& path) : file_(std::make_unique<File>(path)) {}

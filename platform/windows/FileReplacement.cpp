@@ -53,11 +53,7 @@ public:
         }
     }
 
-    ~File() {
-        if (handle_ == INVALID_HANDLE_VALUE && (error_ == 0 || !made_)) return;
-        Close();
-        ::DeleteFileW(written_.c_str());
-    }
+    ~File() { GiveUp(error_); }
 
     File(const File&) = delete;
     File& operator=(const File&) = delete;
@@ -68,7 +64,8 @@ public:
             DWORD written = 0;
             const auto most = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
             if (::WriteFile(handle_, bytes.data(), most, &written, nullptr) == 0) {
-                error_ = ErrorNumberOf(::GetLastError());
+                GiveUp(ErrorNumberOf(::GetLastError()));
+                return;
             }
             bytes.remove_prefix(written);
         }
@@ -77,27 +74,34 @@ public:
     void Commit() {
         if (error_ != 0) return;
         constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-        made_ = true;
-        if (::FlushFileBuffers(handle_) == 0 || !Close() ||
-            ::MoveFileExW(written_.c_str(), target_.c_str(), kHow) == 0) {
+        if (::FlushFileBuffers(handle_) == 0) {
+            GiveUp(ErrorNumberOf(::GetLastError()));
+            return;
+        }
+        ::CloseHandle(handle_);
+        handle_ = INVALID_HANDLE_VALUE;
+        if (::MoveFileExW(written_.c_str(), target_.c_str(), kHow) == 0) {
             error_ = ErrorNumberOf(::GetLastError());
+            ::DeleteFileW(written_.c_str());
         }
     }
 
     int Error() const { return error_; }
 
 private:
-    bool Close() {
-        const HANDLE handle = handle_;
+    // Leaves nothing of what was written, which is in the way of a full disk.
+    void GiveUp(int error) {
+        error_ = error;
+        if (handle_ == INVALID_HANDLE_VALUE) return;
+        ::CloseHandle(handle_);
         handle_ = INVALID_HANDLE_VALUE;
-        return handle == INVALID_HANDLE_VALUE || ::CloseHandle(handle) != 0;
+        ::DeleteFileW(written_.c_str());
     }
 
     std::wstring target_;
+    int error_;
     std::wstring written_;
-    HANDLE handle_ = INVALID_HANDLE_VALUE;
-    int error_ = 0;
-    bool made_ = false;  // and closed, so that its handle tells no more that it is there
+    HANDLE handle_ = INVALID_HANDLE_VALUE;  // while it is being written
 };
 
 FileReplacement::FileReplacement(const std::string& path) : file_(std::make_unique<File>(path)) {}

@@ -17,12 +17,14 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 from reader import HERE, ReaderDesktop, settings_text  # noqa: E402
 
 # The titles of the windows in each language.
-TITLES = {"en": ("Calvoro 13.0", "Display month", "Calvoro Help", "Output window", "Clear"),
-          "de": ("Calvoro 13.0", "Monat zeigen", "Calvoro Hilfe", "Ausgabefenster", "Loeschen")}
+TITLES = {"en": ("Calvoro 13.0", "Display month", "Calvoro Help", "Output window", "Clear",
+                 "Calvoro List"),
+          "de": ("Calvoro 13.0", "Monat zeigen", "Calvoro Hilfe", "Ausgabefenster", "Loeschen",
+                 "Calvoro Liste")}
 
 
 def trees(desktop, tongue):
-    main, month, help_window, enlarged, clear = TITLES[tongue]
+    main, month, help_window, enlarged, clear, dates = TITLES[tongue]
     desktop.language = list(TITLES).index(tongue)
     desktop.put_settings(settings_text("2024-02-29", "7", "2024-03-07", "x" * 200, desktop.language,
                                        month=("Mon", "CE")))
@@ -38,6 +40,7 @@ def trees(desktop, tongue):
     opened(month, "ctrl+m")
     opened(help_window, "F1")
     opened(enlarged, "alt+" + desktop.key_of("frmMain.cmdEnlarge"))
+    opened(dates, "ctrl+l")
     opened(clear, "alt+" + desktop.key_of("frmMain.cmdCompute"))
     desktop.keys("Escape")
     desktop.quit(process)

@@ -103,7 +103,8 @@ private Q_SLOTS:
         QCOMPARE(cells->rowCount(), 2);
         QCOMPARE(cells->columnDescription(1), u"Read as"_s);
         QCOMPARE(cells->cellAt(0, 3)->text(QAccessible::Name), u"Thursday"_s);
-        QCOMPARE(Of(*list->findChild<QWidget*>(u"fraLinesAre"_s)).text(QAccessible::Name), u"The lines are"_s);
+        QCOMPARE(Of(*list->findChild<QWidget*>(u"fraLinesAre"_s)).text(QAccessible::Name),
+                 u"The lines are"_s);
     }
 
     void EveryGroupHasAName_data() {

@@ -70,8 +70,7 @@ std::int32_t AnyDay(Random& random) {
 
 // A date as one of the notations writes it, sometimes damaged, sometimes in a notation of its own.
 QString AnyLine(CalendarNumber calendar, const TextOptions& options, Random& random) {
-    const CalendarNumber written =
-        random() % 12 == 0 ? OneOf(kOffered, random).number : calendar;
+    const CalendarNumber written = random() % 12 == 0 ? OneOf(kOffered, random).number : calendar;
     const std::int32_t day = AnyDay(random);
     std::string text = CanWriteDate(written, day) ? WriteDate(written, day, options) : "2024-13-40";
     if (random() % 15 == 0) text.insert(random() % (text.size() + 1), 1, "x9-. W"[random() % 6]);
@@ -116,10 +115,16 @@ private:
     }
 
     static TextOptions TextOptionsOf(const MainWindowFixture& main) {
-        const auto chosen = [&main](const char* name) { return main.Button(QString::fromLatin1(name)).isChecked(); };
+        const auto chosen = [&main](const char* name) {
+            return main.Button(QString::fromLatin1(name)).isChecked();
+        };
         return {.dateFormat = main.window->UsersDateFormat(),
-                .dateSeparator = chosen("optSeparatorIsDash") ? '-' : chosen("optSeparatorIsSlash") ? '/' : '.',
-                .thousandsSeparator = chosen("optThousSepIsComma") ? ',' : chosen("optThousSepIsDot") ? '.' : kNoSeparator,
+                .dateSeparator = chosen("optSeparatorIsDash")    ? '-'
+                                 : chosen("optSeparatorIsSlash") ? '/'
+                                                                 : '.',
+                .thousandsSeparator = chosen("optThousSepIsComma") ? ','
+                                      : chosen("optThousSepIsDot") ? '.'
+                                                                   : kNoSeparator,
                 .hyphen = chosen("chkHyphen"),
                 .digitGrouping = ","};
     }
@@ -179,10 +184,12 @@ private Q_SLOTS:
             const bool isFirst = side == ListSide::FirstDates;
             const CalendarNumber own = main.window->GetCal(isFirst ? 1 : 2);
             const TextOptions options = TextOptionsOf(main);
-            const std::vector<QString> differences = {"", "", "", "1", "10", "-400", "1,000", "99999999", "abc", " "};
+            const std::vector<QString> differences = {"",     "",      "",         "1",   "10",
+                                                      "-400", "1,000", "99999999", "abc", " "};
             const QString difference = OneOf(differences, random);
-            const QString other =
-                random() % 2 == 0 ? QString() : AnyLine(main.window->GetCal(isFirst ? 2 : 1), options, random);
+            const QString other = random() % 2 == 0
+                                      ? QString()
+                                      : AnyLine(main.window->GetCal(isFirst ? 2 : 1), options, random);
             main.Fill(isFirst ? u"0"_s : other, difference, isFirst ? other : u"0"_s);
             QStringList lines;
             for (int i = 0; i < kLines; ++i) lines.push_back(AnyLine(own, options, random));
@@ -193,7 +200,8 @@ private Q_SLOTS:
             std::vector<Row> rows;
             for (int i = 0; i < kLines; ++i) rows.push_back(both.RowAt(i));
             const QStringList before = main.Boxes();
-            QCOMPARE(before, (isFirst ? QStringList{"0", difference, other} : QStringList{other, difference, "0"}));
+            QCOMPARE(before,
+                     (isFirst ? QStringList{"0", difference, other} : QStringList{other, difference, "0"}));
             QVERIFY(main.Shown().empty());
             for (int i = 0; i < kLines; ++i, ++compared) {
                 const QString description = lines[i] + " / " + difference + " / " + other;
@@ -215,18 +223,25 @@ private Q_SLOTS:
         QTest::addColumn<QString>("difference");
         QTest::addColumn<QString>("second");
         QTest::addColumn<QStringList>("row");
-        QTest::newRow("conversion") << "" << "" << QStringList{"2021-03-04", "2021-02-19", "Thursday", ""};
-        QTest::newRow("sum") << "10" << "" << QStringList{"2021-03-04", "2021-03-01", "Sunday", ""};
-        QTest::newRow("count") << "" << "2021-03-01" << QStringList{"2021-03-04", "10", "", ""};
+        QTest::newRow("conversion") << ""
+                                    << "" << QStringList{"2021-03-04", "2021-02-19", "Thursday", ""};
+        QTest::newRow("sum") << "10"
+                             << "" << QStringList{"2021-03-04", "2021-03-01", "Sunday", ""};
+        QTest::newRow("count") << ""
+                               << "2021-03-01" << QStringList{"2021-03-04", "10", "", ""};
         QTest::newRow("the difference counts before the date")
-            << "10" << "1999-01-01" << QStringList{"2021-03-04", "2021-03-01", "Sunday", ""};
-        QTest::newRow("beyond the end")
-            << "2099999999" << "" << QStringList{"2021-03-04", "", "", "Result is out of range."};
+            << "10"
+            << "1999-01-01" << QStringList{"2021-03-04", "2021-03-01", "Sunday", ""};
+        QTest::newRow("beyond the end") << "2099999999"
+                                        << "" << QStringList{"2021-03-04", "", "", "Result is out of range."};
         QTest::newRow("difference that is none")
-            << "x" << "" << QStringList{"", "", "", "Date difference is not valid."};
+            << "x"
+            << "" << QStringList{"", "", "", "Date difference is not valid."};
         QTest::newRow("other date that is none")
-            << "" << "x"
-            << QStringList{"", "", "", "Second date is not valid in specified calendar using specified date format."};
+            << ""
+            << "x"
+            << QStringList{"", "", "",
+                           "Second date is not valid in specified calendar using specified date format."};
     }
     void ShowTheirParts() {
         QFETCH(const QString, difference);

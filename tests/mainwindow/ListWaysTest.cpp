@@ -42,10 +42,12 @@ bool Drop(QWidget& target, const QMimeData& data) {
     // As the toolkit does it: a drop comes where the drag was taken.
     for (QWidget* widget = &target; widget != nullptr; widget = widget->parentWidget()) {
         if (!widget->acceptDrops()) continue;
-        QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                              Qt::NoModifier);
         QApplication::sendEvent(widget, &enter);
         if (!enter.isAccepted()) continue;
-        QDropEvent drop(QPointF(2, 2), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPointF(2, 2), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+                        Qt::NoModifier);
         QApplication::sendEvent(widget, &drop);
         return drop.isAccepted();
     }
@@ -160,19 +162,26 @@ private Q_SLOTS:
     void WhatIsDroppedOnTheWindowBecomesAList_data() {
         QTest::addColumn<QString>("target");
         QTest::addColumn<QString>("side");
-        QTest::newRow("the window") << "scrollingPage" << "optLinesAreFirst";
-        QTest::newRow("a button") << "cmdCompute" << "optLinesAreFirst";
-        QTest::newRow("the output") << "txbOutput" << "optLinesAreFirst";
-        QTest::newRow("the difference") << "txbDateDiff" << "optLinesAreFirst";
-        QTest::newRow("the first date") << "txbFirstDate" << "optLinesAreFirst";
-        QTest::newRow("the second date") << "txbSecondDate" << "optLinesAreSecond";
+        QTest::newRow("the window") << "scrollingPage"
+                                    << "optLinesAreFirst";
+        QTest::newRow("a button") << "cmdCompute"
+                                  << "optLinesAreFirst";
+        QTest::newRow("the output") << "txbOutput"
+                                    << "optLinesAreFirst";
+        QTest::newRow("the difference") << "txbDateDiff"
+                                        << "optLinesAreFirst";
+        QTest::newRow("the first date") << "txbFirstDate"
+                                        << "optLinesAreFirst";
+        QTest::newRow("the second date") << "txbSecondDate"
+                                         << "optLinesAreSecond";
     }
     void WhatIsDroppedOnTheWindowBecomesAList() {
         QFETCH(const QString, target);
         QFETCH(const QString, side);
         MainWindowFixture main;
         main.Start();
-        // As file managers give it, which offer the address as a text as well; the rest of the window takes either.
+        // As file managers give it, which offer the address as a text as well; the rest of the window takes
+        // either.
         const std::unique_ptr<QMimeData> file(FileData(PathOf(main, "2024-02-29\nx\n")));
         if (target.startsWith("txb") && target != "txbOutput") file->setText(u"file:///list.txt"_s);
         QVERIFY(Drop(main.Get<QWidget>(target), *file));

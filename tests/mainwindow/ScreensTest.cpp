@@ -186,7 +186,7 @@ private Q_SLOTS:
         list.findChild<QWidget*>(u"cmdLater"_s)->show();
         QCoreApplication::processEvents();
         CheckReachable(list, checked);
-        QVERIFY(checked > 50);
+        QVERIFY(checked > 40);
         list.resize(1, 1);
         QCoreApplication::processEvents();
         CheckReachable(list, checked);

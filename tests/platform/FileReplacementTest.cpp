@@ -124,6 +124,7 @@ TEST_F(FileReplacementTest, SurvivesALimitOnTheSizeOfFiles) {
         EXPECT_EQ(file.Error(), 0);
         file.Write(std::string(900, 'x'));
         EXPECT_EQ(file.Error(), EFBIG);
+        EXPECT_EQ(Names(), kOnlyTheFile);
         file.Write("y");
         file.Commit();
         EXPECT_EQ(file.Error(), EFBIG);

@@ -99,14 +99,42 @@ void ListControls::SetCaptions(const Texts& texts) {
     prgJob->setAccessibleName(ToQt(words.progress));
 }
 
+void ListControls::SetHeads(ListModel& model, ListSide side, const Texts& texts) {
+    const ListWords& words = WordsOfList(texts.InterfaceLanguage);
+    const TextId date = side == ListSide::FirstDates ? TextId::FirstDate : TextId::SecondDate;
+    model.SetCaptions({.date = ToQt(texts.Shown(date)),
+                       .column = ToQt(words.column),
+                       .reading = ToQt(words.reading),
+                       .result = ToQt(words.result),
+                       .weekday = ToQt(words.weekday),
+                       .reason = ToQt(words.reason)});
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const bool isWeekday = column == model.Column(ComputedColumn::Weekday);
+        tblList->setColumnHidden(column, isWeekday && !model.Sheet().maker->HasWeekdays());
+    }
+}
+
+void ListControls::FollowRows(const ListModel& model) {
+    for (QPushButton* control : {cmdCopyAll, cmdSaveAs, cmdNextRefusal}) {
+        control->setEnabled(model.Places() > 0);
+    }
+    for (QCheckBox* box : {chkRefusalsOnly, chkByDay}) box->setEnabled(model.Sheet().lines->Count() > 0);
+    cmdCopySelected->setEnabled(tblList->selectionModel()->hasSelection());
+    const bool hasParts = model.Places() > ListModel::kRowsInPart;
+    cmdEarlier->setVisible(hasParts);
+    cmdLater->setVisible(hasParts);
+    cmdEarlier->setEnabled(model.PartBegin() > 0);
+    cmdLater->setEnabled(model.Places() - model.PartBegin() > ListModel::kRowsInPart);
+}
+
 void ListControls::SetColumnWidths(const ListModel& model) {
     constexpr int kDateCharacters = 24;
     constexpr int kOtherCharacters = 14;
     constexpr int kReasonCharacters = 50;
     const int character = tblList->fontMetrics().averageCharWidth();
     const auto set = [&](int column, int characters) {
-        tblList->setColumnWidth(column, qMax(characters * character,
-                                             tblList->horizontalHeader()->sectionSizeHint(column)));
+        tblList->setColumnWidth(
+            column, qMax(characters * character, tblList->horizontalHeader()->sectionSizeHint(column)));
     };
     for (int column = 0; column < model.GivenColumns(); ++column) {
         set(column, model.GivenColumns() == 1 ? kDateCharacters : kOtherCharacters);

@@ -24,6 +24,12 @@ struct ListControls {
     /// Sets captions and accessible names in the language of the interface.
     void SetCaptions(const Texts& texts);
 
+    /// Sets what stands above the columns, and hides the one of weekdays where there are none.
+    void SetHeads(ListModel& model, ListSide side, const Texts& texts);
+
+    /// Switches controls on and off as the rows that there are want it.
+    void FollowRows(const ListModel& model);
+
     /// Gives the columns of a table the widths that such texts take.
     void SetColumnWidths(const ListModel& model);
 

@@ -1,6 +1,8 @@
 #include "windows/list/ListTable.h"
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
+#include <algorithm>
 
 namespace calvoro {
 
@@ -46,6 +48,22 @@ void ListTable::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QTableView::keyPressEvent(event);
+}
+
+std::vector<PlaceRange> AllPlaces(const ListModel& model) {
+    if (model.Places() == 0) return {};
+    return {{0, model.Places() - 1}};
+}
+
+std::vector<PlaceRange> SelectedPlaces(const ListTable& table, const ListModel& model) {
+    std::vector<PlaceRange> ranges;
+    for (const QItemSelectionRange& range : table.selectionModel()->selection()) {
+        ranges.push_back({model.PartBegin() + static_cast<std::uint32_t>(range.top()),
+                          model.PartBegin() + static_cast<std::uint32_t>(range.bottom())});
+    }
+    std::sort(ranges.begin(), ranges.end(),
+              [](const PlaceRange& one, const PlaceRange& other) { return one.first < other.first; });
+    return ranges;
 }
 
 }  // namespace calvoro

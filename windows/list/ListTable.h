@@ -2,6 +2,10 @@
 
 #include <QKeyEvent>
 #include <QTableView>
+#include <vector>
+
+#include "windows/list/ListModel.h"
+#include "windows/list/lines/ListOutput.h"
 
 namespace calvoro {
 
@@ -25,5 +29,9 @@ protected:
 private:
     void FollowFont();
 };
+
+/// The places of all rows of a list, or of those that are selected, from top to bottom.
+std::vector<PlaceRange> AllPlaces(const ListModel& model);
+std::vector<PlaceRange> SelectedPlaces(const ListTable& table, const ListModel& model);
 
 }  // namespace calvoro

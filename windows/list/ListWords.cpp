@@ -7,8 +7,9 @@ namespace {
 
 constexpr ListWords kEnglish = {
     .title = "Calvoro List",
-    .howTo = "Copy a column of dates, for example from a spreadsheet, and paste it here (Ctrl+V), or drop a "
-             "text or a file on this window. Each line is computed as if it stood in the date box.",
+    .howTo =
+        "Copy a column of dates, for example from a spreadsheet, and paste it here (Ctrl+V), or drop a "
+        "text or a file on this window. Each line is computed as if it stood in the date box.",
     .linesAre = "The lines are",
     .table = "List",
     .chooseColumn = "A click on the head of a column, or Enter in it, makes it the column with the dates",
@@ -41,7 +42,6 @@ constexpr ListWords kEnglish = {
     .refusal = "refusal",
     .refusals = "refusals",
     .soFar = "so far",
-    .shown = "shown",
     .copied = "Copied",
     .saved = "Saved",
     .stopped = "Stopped",
@@ -63,12 +63,14 @@ constexpr ListWords kEnglish = {
 
 constexpr ListWords kGerman = {
     .title = "Calvoro Liste",
-    .howTo = "Kopieren Sie eine Spalte mit Daten, zum Beispiel aus einer Tabelle, und fuegen Sie sie hier ein "
-             "(Strg+V), oder ziehen Sie einen Text oder eine Datei auf dieses Fenster. Jede Zeile wird "
-             "berechnet, als staende sie im Datumsfeld.",
+    .howTo =
+        "Kopieren Sie eine Spalte mit Daten, zum Beispiel aus einer Tabelle, und fuegen Sie sie hier ein "
+        "(Strg+V), oder ziehen Sie einen Text oder eine Datei auf dieses Fenster. Jede Zeile wird "
+        "berechnet, als staende sie im Datumsfeld.",
     .linesAre = "Die Zeilen sind",
     .table = "Liste",
-    .chooseColumn = "Ein Klick auf den Kopf einer Spalte, oder Enter in ihr, macht sie zur Spalte mit den Daten",
+    .chooseColumn =
+        "Ein Klick auf den Kopf einer Spalte, oder Enter in ihr, macht sie zur Spalte mit den Daten",
     .column = "Spalte",
     .reading = "Gelesen als",
     .result = "Resultat",
@@ -98,7 +100,6 @@ constexpr ListWords kGerman = {
     .refusal = "abgewiesen",
     .refusals = "abgewiesen",
     .soFar = "bisher",
-    .shown = "gezeigt",
     .copied = "Kopiert",
     .saved = "Gespeichert",
     .stopped = "Angehalten",
@@ -133,6 +134,14 @@ std::string Counted(std::uint64_t number, std::string_view one, std::string_view
     std::string digits = std::to_string(number);
     for (std::size_t at = digits.size(); at > 3; at -= 3) digits.insert(at - 3, 1, words.thousands);
     return digits.append(" ").append(number == 1 ? one : many);
+}
+
+std::string StateText(const ListSurvey& survey, const ListWords& words) {
+    if (survey.Count() == 0) return std::string(words.howTo);
+    std::string text = Counted(survey.Count(), words.line, words.lines, words);
+    text.append(", ").append(Counted(survey.Refusals(), words.refusal, words.refusals, words));
+    if (!survey.IsComplete()) text.append(" ").append(words.soFar);
+    return text;
 }
 
 std::string RefusalMessage(const ListRefusal& refusal, const std::string& path, const ListWords& words) {

@@ -8,6 +8,7 @@
 
 #include "text/Language.h"
 #include "windows/list/lines/LinesBuilder.h"
+#include "windows/list/lines/ListSurvey.h"
 
 namespace calvoro {
 
@@ -46,7 +47,6 @@ struct ListWords {
     std::string_view refusal;
     std::string_view refusals;
     std::string_view soFar;
-    std::string_view shown;
     std::string_view copied;
     std::string_view saved;
     std::string_view stopped;
@@ -72,6 +72,10 @@ const ListWords& WordsOfList(LanguageNumber language);
 /// "1 line", "1,234 lines".
 std::string Counted(std::uint64_t number, std::string_view one, std::string_view many,
                     const ListWords& words);
+
+/// "64 lines, 3 refusals", with "so far" while rows are still looked at; how to make a list when there is
+/// none.
+std::string StateText(const ListSurvey& survey, const ListWords& words);
 
 /// What is wrong with a list that was given, in a sentence or two.
 /// path  of the file; "" for a text that was pasted or dropped

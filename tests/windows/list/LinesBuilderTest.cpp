@@ -43,8 +43,20 @@ INSTANTIATE_TEST_SUITE_P(
         TextRow{"CarriageReturns", "1\r\n2\r\n", false, {"1", "2"}, 1},
         TextRow{"Mixed", "1\r\n2\n3\r4\n", false, {"1", "2", "3\r4"}, 1},
         TextRow{"EmptyLines", "\n\r\n1\n\n", false, {"", "", "1", ""}, 1},
-        TextRow{"ByteOrderMark", "\xEF\xBB\xBF" "1\n2\n", false, {"1", "2"}, 1},
-        TextRow{"ByteOrderMarkInside", "1\n\xEF\xBB\xBF" "2\n", false, {"1", "\xEF\xBB\xBF" "2"}, 1},
+        TextRow{"ByteOrderMark",
+                "\xEF\xBB\xBF"
+                "1\n2\n",
+                false,
+                {"1", "2"},
+                1},
+        TextRow{"ByteOrderMarkInside",
+                "1\n\xEF\xBB\xBF"
+                "2\n",
+                false,
+                {"1",
+                 "\xEF\xBB\xBF"
+                 "2"},
+                1},
         TextRow{"Tabs", "a\t1\nb\t2\t3\n", false, {"a\t1", "b\t2\t3"}, 3},
         TextRow{"CommasOutsideCsv", "1,2\n3,4\n", false, {"1,2", "3,4"}, 1},
         TextRow{"Commas", "a,1\nb\n", true, {"a,1", "b"}, 2},
@@ -75,15 +87,20 @@ TEST_P(NoList, IsMadeOf) {
     EXPECT_EQ(builder.Refusal().fault, GetParam().fault);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, NoList,
-    testing::Values(FaultRow{"Nothing", "", ListFault::Empty}, FaultRow{"OnlyAMark", "\xEF\xBB\xBF", ListFault::Empty},
-                    FaultRow{"Nul", std::string("1\n2\0003\n", 6), ListFault::NotText},
-                    FaultRow{"NulAfterPlainBytes", std::string("12345678901234567\0", 18), ListFault::NotText},
-                    FaultRow{"Latin1", "M\xE4rz\n", ListFault::NotText},
-                    FaultRow{"CutCharacter", "M\xC3", ListFault::NotText},
-                    FaultRow{"Utf16", std::string("\xFF\xFE" "1\0\n\0", 6), ListFault::NotText}),
-    RowName<FaultRow>);
+INSTANTIATE_TEST_SUITE_P(Rows, NoList,
+                         testing::Values(FaultRow{"Nothing", "", ListFault::Empty},
+                                         FaultRow{"OnlyAMark", "\xEF\xBB\xBF", ListFault::Empty},
+                                         FaultRow{"Nul", std::string("1\n2\0003\n", 6), ListFault::NotText},
+                                         FaultRow{"NulAfterPlainBytes",
+                                                  std::string("12345678901234567\0", 18), ListFault::NotText},
+                                         FaultRow{"Latin1", "M\xE4rz\n", ListFault::NotText},
+                                         FaultRow{"CutCharacter", "M\xC3", ListFault::NotText},
+                                         FaultRow{"Utf16",
+                                                  std::string("\xFF\xFE"
+                                                              "1\0\n\0",
+                                                              6),
+                                                  ListFault::NotText}),
+                         RowName<FaultRow>);
 
 TEST(LinesBuilder, TakesLinesOfOneMebibyteAndNoneLonger) {
     const std::string longest(kLongestLine, '1');

@@ -75,7 +75,11 @@ TEST_F(ListFileTest, TellsWhyItIsNone) {
     EXPECT_EQ(RefusalOf(folder_).fault, ListFault::NoFile);
     EXPECT_EQ(RefusalOf("/dev/zero").fault, ListFault::NoFile);
     EXPECT_EQ(RefusalOf(Write("empty", "")).fault, ListFault::Empty);
-    EXPECT_EQ(RefusalOf(Write("binary", std::string("\x7F" "ELF\0\0", 6))).fault, ListFault::NotText);
+    EXPECT_EQ(RefusalOf(Write("binary", std::string("\x7F"
+                                                    "ELF\0\0",
+                                                    6)))
+                  .fault,
+              ListFault::NotText);
     const std::string secret = Write("secret", "1\n");
     fs::permissions(secret, fs::perms::none);
     if (::geteuid() != 0) {

@@ -57,8 +57,7 @@ TEST(ListOutput, WritesTheChosenRowsInTheirOrder) {
 
 TEST(ListOutput, KeepsColumnsBelowEachOther) {
     const ListSheet tabs = SheetOf("a\t1\nb\nc\t3\tx\n", false, 1);
-    EXPECT_EQ(Written(tabs, kTabs),
-              "a\t1\t\t<1>\t2\todd\t\nb\t\t\t\t\t\t\nc\t3\tx\t<3>\t4\todd\t\n");
+    EXPECT_EQ(Written(tabs, kTabs), "a\t1\t\t<1>\t2\todd\t\nb\t\t\t\t\t\t\nc\t3\tx\t<3>\t4\todd\t\n");
     const ListSheet csv = SheetOf("\"a,b\",1\n\"say \"\"no\"\"\",2\n", true, 1);
     EXPECT_EQ(Written(csv, kCsv), "\"a,b\",1,<1>,2,odd,\n\"say \"\"no\"\"\",2,<2>,3,even,\n");
     EXPECT_EQ(Written(csv, kTabs), "a,b\t1\t<1>\t2\todd\t\nsay \"no\"\t2\t<2>\t3\teven\t\n");

@@ -15,8 +15,8 @@
 
 namespace calvoro {
 
-/// Takes whole numbers for dates: 12 is read as "<12>" on day 12, its result is 13. Everything else that is not
-/// blank is refused.
+/// Takes whole numbers for dates: 12 is read as "<12>" on day 12, its result is 13. Everything else that is
+/// not blank is refused.
 class NumberRows : public ListRowMaker {
 public:
     bool weekdays = true;

@@ -18,7 +18,8 @@ private:
     // So many lines that nothing is done with all of them at once.
     static QString ManyLines(int count) {
         QString text;
-        for (int i = 0; i < count; ++i) text += QString::number(count - i) + (i % 1000 == 999 ? u"x\n"_s : u"\n"_s);
+        for (int i = 0; i < count; ++i)
+            text += QString::number(count - i) + (i % 1000 == 999 ? u"x\n"_s : u"\n"_s);
         return text;
     }
 
@@ -46,8 +47,8 @@ private Q_SLOTS:
         QCOMPARE(list.Row(0), QStringList({u"1"_s, u"<1>"_s, u"2"_s, u"odd"_s, QString()}));
         QCOMPARE(list.Row(1), QStringList({u"x"_s, QString(), QString(), QString(), u"no number"_s}));
         QCOMPARE(list.Row(2), QStringList({QString(), QString(), QString(), QString(), QString()}));
-        QCOMPARE(list.Heads(), QStringList({u"First date"_s, u"Read as"_s, u"Result: plus one"_s, u"Weekday"_s,
-                                            u"Refused because"_s}));
+        QCOMPARE(list.Heads(), QStringList({u"First date"_s, u"Read as"_s, u"Result: plus one"_s,
+                                            u"Weekday"_s, u"Refused because"_s}));
         QCOMPARE(list.Model().headerData(3, Qt::Vertical).toInt(), 4);
         QTRY_COMPARE(list.State(), u"4 lines, 1 refusal"_s);
         list.Give(u"1"_s);
@@ -127,7 +128,9 @@ private Q_SLOTS:
     void ReadsFilesOfEveryForm() {
         ListWindow list;
         list.Open();
-        list.GiveFile(list.Write(u"a.txt"_s, "\xEF\xBB\xBF" "1\r\n2\r\n"));
+        list.GiveFile(list.Write(u"a.txt"_s,
+                                 "\xEF\xBB\xBF"
+                                 "1\r\n2\r\n"));
         QCOMPARE(list.Column(0), QStringList({u"1"_s, u"2"_s}));
         list.GiveFile(list.Write(u"a.csv"_s, "\"a, b\",1\nc,2\n"));
         QCOMPARE(list.Column(0), QStringList({u"a, b"_s, u"c"_s}));
@@ -175,10 +178,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("message");
-        QTest::newRow("binary") << u"a"_s << QByteArray("\x89PNG\r\n\x1A\n\0\0", 10) << u"This is no text in UTF-8."_s;
-        QTest::newRow("other encoding") << u"a"_s << QByteArray("M\xE4rz\n") << u"This is no text in UTF-8."_s;
+        QTest::newRow("binary") << u"a"_s << QByteArray("\x89PNG\r\n\x1A\n\0\0", 10)
+                                << u"This is no text in UTF-8."_s;
+        QTest::newRow("other encoding")
+            << u"a"_s << QByteArray("M\xE4rz\n") << u"This is no text in UTF-8."_s;
         QTest::newRow("empty") << u"a"_s << QByteArray() << u"There is no line in it."_s;
-        QTest::newRow("long line") << u"a"_s << QByteArray("1\n") + QByteArray(2 << 20, '1') + QByteArray("\n")
+        QTest::newRow("long line") << u"a"_s
+                                   << QByteArray("1\n") + QByteArray(2 << 20, '1') + QByteArray("\n")
                                    << u"Line 2 is longer than a line may be (1 MiB)."_s;
         QTest::newRow("folder") << QString() << QByteArray() << u"This is no ordinary file."_s;
         QTest::newRow("missing") << u"missing"_s << QByteArray()

@@ -34,7 +34,8 @@ inline constexpr std::uint64_t kLargestList = 2'000'000'000;  // bytes
 
 class LinesBuilder : public SlicedJob {
 public:
-    /// isCsv  whether the text is comma-separated values; any other text is divided by its tabs, if it has some
+    /// isCsv  whether the text is comma-separated values; any other text is divided by its tabs, if it has
+    /// some
     LinesBuilder(std::string text, bool isCsv);
 
     bool Step() override;

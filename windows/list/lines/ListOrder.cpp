@@ -32,9 +32,9 @@ bool OrderRows::Step() {
 double OrderRows::Done() const {
     if (!arrangement_.byDay) return survey_->Done();
     constexpr double kShareOfSurvey = 0.9;
-    const double sorted = (digit_ + (rows_->empty() ? 0 : static_cast<double>(placed_) /
-                                                              static_cast<double>(rows_->size()))) /
-                          kDigits;
+    const double sorted =
+        (digit_ + (rows_->empty() ? 0 : static_cast<double>(placed_) / static_cast<double>(rows_->size()))) /
+        kDigits;
     return kShareOfSurvey * survey_->Done() + (1 - kShareOfSurvey) * sorted;
 }
 

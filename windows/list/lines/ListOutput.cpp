@@ -10,8 +10,7 @@ namespace {
 // from.
 bool NeedsQuotes(std::string_view text, const OutputForm& form, const TextShape& shape) {
     if (form.csv) return text.find_first_of(",\"\r\n") != std::string_view::npos;
-    return text.find_first_of("\t\r\n") != std::string_view::npos ||
-           (shape.quotes && text.starts_with('"'));
+    return text.find_first_of("\t\r\n") != std::string_view::npos || (shape.quotes && text.starts_with('"'));
 }
 
 }  // namespace

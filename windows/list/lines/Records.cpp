@@ -32,8 +32,8 @@ std::size_t EndOfField(std::string_view line, std::size_t from, const TextShape&
     return Find(line, shape.delimiter, from);
 }
 
-// The line end at which the row that begins the text ends, when a quoted field reaches over its first one; the
-// first one when no quotes are open there, or when they are never closed.
+// The line end at which the row that begins the text ends, when a quoted field reaches over its first one;
+// the first one when no quotes are open there, or when they are never closed.
 std::size_t EndOfQuotedLines(std::string_view text, std::size_t firstEnd, const TextShape& shape) {
     std::size_t end = firstEnd;
     for (std::size_t at = 0; at < end;) {
