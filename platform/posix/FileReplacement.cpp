@@ -5,46 +5,16 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "platform/WriteAll.h"
+#include "platform/posix/LinkTarget.h"
+#include "platform/posix/NoFileSizeSignal.h"
 
 namespace calvoro {
 namespace {
-
-/// While one lives, writing beyond the limit on the size of files is an error and not the program's end.
-class NoFileSizeSignal {
-public:
-    NoFileSizeSignal() {
-        struct sigaction ignore {};
-        ignore.sa_handler = SIG_IGN;
-        ::sigaction(SIGXFSZ, &ignore, &previous_);
-    }
-    ~NoFileSizeSignal() { ::sigaction(SIGXFSZ, &previous_, nullptr); }
-    NoFileSizeSignal(const NoFileSizeSignal&) = delete;
-    NoFileSizeSignal& operator=(const NoFileSizeSignal&) = delete;
-
-private:
-    struct sigaction previous_ {};
-};
-
-/// Where a path leads, also when the file at the end of its links is still to be made.
-std::filesystem::path WithLinksResolved(const std::string& path) {
-    constexpr int kMostLinks = 40;
-    std::error_code failed;
-    std::filesystem::path target(path);
-    for (int links = 0; links < kMostLinks; ++links) {
-        const std::filesystem::path next = std::filesystem::read_symlink(target, failed);
-        if (failed) return target;
-        target = target.parent_path() / next;
-    }
-    return target;
-}
 
 // What the system gives to a file that a program makes.
 mode_t UsualPermissions() {
@@ -66,7 +36,7 @@ int WhyNotReplaceable(const std::string& path, const struct stat& status) {
 
 class FileReplacement::File {
 public:
-    explicit File(const std::string& path) : target_(WithLinksResolved(path).string()) {
+    explicit File(const std::string& path) : target_(WithLinksResolved(path)) {
         struct stat old {};
         mode_t permissions = UsualPermissions();
         if (::stat(target_.c_str(), &old) == 0) {

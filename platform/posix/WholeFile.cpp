@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
@@ -16,6 +15,8 @@
 #include <utility>
 
 #include "platform/WriteAll.h"
+#include "platform/posix/LinkTarget.h"
+#include "platform/posix/NoFileSizeSignal.h"
 
 namespace calvoro {
 
@@ -57,22 +58,6 @@ void TakeTurn(int folder) {
         ::usleep(kPause);
     }
 }
-
-/// While one lives, writing beyond the limit on the size of files is a failure and not the program's end.
-class NoFileSizeSignal {
-public:
-    NoFileSizeSignal() {
-        struct sigaction ignore {};
-        ignore.sa_handler = SIG_IGN;
-        ::sigaction(SIGXFSZ, &ignore, &previous_);
-    }
-    ~NoFileSizeSignal() { ::sigaction(SIGXFSZ, &previous_, nullptr); }
-    NoFileSizeSignal(const NoFileSizeSignal&) = delete;
-    NoFileSizeSignal& operator=(const NoFileSizeSignal&) = delete;
-
-private:
-    struct sigaction previous_ {};
-};
 
 bool IsSameFile(const struct stat& one, const struct stat& other) {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
@@ -128,19 +113,6 @@ private:
     std::string path_;
     Descriptor file_;
 };
-
-/// Where a path leads, also when the file at the end of its links is still to be made.
-std::string WithLinksResolved(const std::string& path) {
-    constexpr int kMostLinks = 40;
-    std::error_code failed;
-    std::filesystem::path target(path);
-    for (int links = 0; links < kMostLinks; ++links) {
-        const std::filesystem::path next = std::filesystem::read_symlink(target, failed);
-        if (failed) return target.string();
-        target = target.parent_path() / next;
-    }
-    return path;
-}
 
 std::string FolderOf(const std::string& path) {
     const std::string folder = std::filesystem::path(path).parent_path().string();

@@ -11,7 +11,7 @@
 namespace calvoro {
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{256} * 1024;  // bytes; about a millisecond
+constexpr std::size_t kCheckedAtOnce = std::size_t{256} * 1024;  // bytes; about a millisecond
 constexpr std::uint32_t kRowsFromMarkToMark = 64;
 constexpr std::size_t kBytesFromMarkToMark = std::size_t{64} * 1024;
 
@@ -72,7 +72,7 @@ double LinesBuilder::Done() const {
 
 bool LinesBuilder::CheckPiece() {
     const std::string_view text = lines_->text_;
-    const std::size_t end = std::min(text.size(), checked_ + kPiece);
+    const std::size_t end = std::min(text.size(), checked_ + kCheckedAtOnce);
     while (checked_ < end) {
         if (checked_ + 8 <= end && ArePlain(text.data() + checked_)) {
             checked_ += 8;
@@ -99,7 +99,7 @@ void LinesBuilder::FindShape() {
 bool LinesBuilder::MarkRows() {
     ListLines& lines = *lines_;
     const std::string_view text = lines.text_;
-    const std::size_t until = marked_ + kPiece;
+    const std::size_t until = marked_ + kCheckedAtOnce;
     while (marked_ < text.size() && marked_ < until) {
         const Record record = RecordAt(text, marked_, lines.shape_);
         if (record.tooLong) return false;

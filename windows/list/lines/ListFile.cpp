@@ -9,7 +9,7 @@
 namespace calvoro {
 namespace {
 
-constexpr std::size_t kPiece = std::size_t{1024} * 1024;  // bytes
+constexpr std::size_t kReadAtOnce = std::size_t{1024} * 1024;  // bytes
 
 std::filesystem::path PathOf(const std::string& path) {
     return {std::u8string(path.begin(), path.end())};
@@ -67,14 +67,14 @@ bool ListFile::Step() {
 // returns  true when it cannot go on
 bool ListFile::ReadPiece() {
     const std::size_t before = text_.size();
-    if (before == 0) text_.reserve(static_cast<std::size_t>(size_) + kPiece);
+    if (before == 0) text_.reserve(static_cast<std::size_t>(size_) + kReadAtOnce);
     // A file may grow while it is read.
     if (before > kLargestList) {
         fault_ = ListFault::TooLarge;
         return true;
     }
-    text_.resize(before + kPiece);
-    const std::size_t got = ReadSome(descriptor_, text_.data() + before, kPiece, error_);
+    text_.resize(before + kReadAtOnce);
+    const std::size_t got = ReadSome(descriptor_, text_.data() + before, kReadAtOnce, error_);
     text_.resize(before + got);
     if (error_ != 0) {
         fault_ = ListFault::Unreadable;
