@@ -18,7 +18,7 @@ from pages import LANGUAGES, MANUAL, ROOT, all_pages, anchors, blocks, examples,
 # What the German page of the keys calls the toolkit's names.
 GERMAN_KEYS = {"Strg": "Ctrl", "Umschalt": "Shift", "Bild auf": "Page Up", "Bild ab": "Page Down"}
 # The windows whose keys are listed, in the order of the page's sections; the first section is for all of them.
-SECTIONS = (None, "frmMain", "frmDisplayMonth")
+SECTIONS = (None, "frmMain", "frmDisplayMonth", "frmList")
 
 
 def without_language(command):

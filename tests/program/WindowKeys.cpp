@@ -1,4 +1,4 @@
-// Prints the key of each button and each label of the main window and the month window, as
+// Prints the key of each button and each label of the main window, the month window and the list window, as
 // "frmMain.cmdEnlarge g" a line: keys are given out by the windows themselves, and the tests that drive the
 // program from outside must not guess them. An argument, the number of a language, chooses whose keys. With a
 // second one the lines are for the page of the manual that lists all keys: window, key and caption, separated
@@ -48,6 +48,13 @@ void PrintKeys(const QWidget& window, bool withCaptions) {
     }
 }
 
+// It has a key and no button.
+void OpenList(const frmMain& window) {
+    for (QShortcut* shortcut : window.findChildren<QShortcut*>()) {
+        if (shortcut->key() == QKeySequence(Qt::CTRL | Qt::Key_L)) Q_EMIT shortcut->activated();
+    }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -65,6 +72,7 @@ int main(int argc, char* argv[]) {
         frmMain window(fakes.platform, {});
         window.Start();
         window.findChild<QAbstractButton*>(QStringLiteral("cmdDisplayMonth"))->click();
+        OpenList(window);
         QApplication::processEvents();
         for (const QWidget* shown : QApplication::topLevelWidgets()) {
             if (shown->isVisible()) PrintKeys(*shown, argc > 2);
