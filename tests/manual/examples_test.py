@@ -19,7 +19,7 @@ import sys
 import tempfile
 import unittest
 
-from pages import MANUAL, ROOT, all_pages, examples
+from pages import MANUAL, ROOT, all_pages, examples, window_results
 
 LEAST_NUMBER = {"console": 150, "shell": 50}  # a search that finds none must not pass
 
@@ -59,14 +59,21 @@ class Examples(unittest.TestCase):
     kind = "console"
 
     def test_every_example_prints_what_its_page_says(self):
+        self.compare(lambda text: examples(text, self.kind), LEAST_NUMBER[self.kind])
+
+    def test_what_the_window_shows_is_what_the_command_line_prints(self):
+        if self.kind == "console":
+            self.compare(window_results, 5)
+
+    def compare(self, examples_of, least):
         number = 0
         for page in all_pages():
             with Bench(self.program) as bench:
-                for example in examples(page.read_text(), self.kind):
+                for example in examples_of(page.read_text()):
                     number += 1
                     with self.subTest(page=str(page.relative_to(ROOT)), line=example.line, command=example.command):
                         self.assertEqual(bench.run(example.command), without_trailing_blanks(example.output))
-        self.assertGreater(number, LEAST_NUMBER[self.kind])
+        self.assertGreater(number, least)
 
 
 def update(program, kind):

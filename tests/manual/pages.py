@@ -62,6 +62,14 @@ def examples(text, kind="console"):
     return found
 
 
+def window_results(text):
+    """What the window shows, in blocks named "text" behind a comment with the command that prints the same."""
+    found = []
+    for match in re.finditer(r"^<!-- \$ ([^\n]+) -->\n```text\n(.*?)^```$", text, re.M | re.S):
+        found.append(Example(match.group(1), match.group(2), text.count("\n", 0, match.start()) + 1))
+    return found
+
+
 def without_blocks(text):
     """The text with its fenced and inline code taken out, in which nothing is a link or a heading."""
     kept, inside = [], False

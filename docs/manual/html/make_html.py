@@ -93,7 +93,7 @@ class Builder:
         shutil.copyfile(HERE / "style.css", self.folder / "style.css")
 
     def write(self, source, manual, page, turn):
-        text = source.read_text().expandtabs(8)  # as in a terminal
+        text = re.sub(r"^<!--.*-->\n", "", source.read_text(), flags=re.M).expandtabs(8)  # as in a terminal
         title = re.match(r"# (.+)", text).group(1)
         content = markdown.markdown(text, extensions=["fenced_code", "tables", "toc"], output_format="html5",
                                     extension_configs={"toc": {"slugify": slug}})
