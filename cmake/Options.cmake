@@ -13,6 +13,7 @@ option(CALVORO_JOIN_SOURCES "Compile the sources of a folder as one, in less tim
 option(CALVORO_WERROR "Treat warnings as errors" OFF)
 option(CALVORO_COVERAGE "Instrument for coverage" OFF)
 option(CALVORO_STATIC_RUNTIME "Link the command line statically" ON)
+option(CALVORO_HARDEN "Build in what makes a mistake of ours harder to abuse, as packages should have it" OFF)
 set(CALVORO_SANITIZE "" CACHE STRING "Sanitizers to build with, for example address,undefined")
 
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
@@ -49,6 +50,13 @@ if(CALVORO_SANITIZE)
   target_compile_options(calvoro_options INTERFACE
     -fsanitize=${CALVORO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(calvoro_options INTERFACE -fsanitize=${CALVORO_SANITIZE})
+endif()
+if(CALVORO_HARDEN)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(calvoro_options INTERFACE
+    -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  target_link_options(calvoro_options INTERFACE
+    "LINKER:-z,relro,-z,now" $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:-pie>)
 endif()
 if(CALVORO_BUILD_FUZZ)
   # Coverage feedback for the code under test; the fuzz targets themselves add the driver.
