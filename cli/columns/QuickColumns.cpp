@@ -55,12 +55,11 @@ std::size_t QuickColumns::ConvertLines(std::string_view block, const DayReader& 
     const std::size_t answersRoom = fields_.size() * (writer.Room() + 1);
     const char* at = block.data();
     const char* const blockEnd = at + block.size();
-    Progress done{at, nullptr};
-    char* begin = nullptr;  // of what is free in the output
-    std::size_t room = 0;
+    char* begin = output.Room(0);  // of what is free in the output
+    std::size_t room = output.Free();
+    Progress done{at, begin};
     const auto handOver = [&] {
-        if (begin == nullptr) return;
-        done.to = Copy(done.copied, at, blockEnd, done.to);
+        if (done.copied != at) done.to = Copy(done.copied, at, blockEnd, done.to);
         done.copied = at;
         output.Commit(static_cast<std::size_t>(done.to - begin));
     };
