@@ -9,6 +9,7 @@ constexpr const char* kMonthFooter = R"(Without YEAR-MONTH the current month is 
 
 Exit status: 0 a month was printed; 1 the month is refused, or writing failed; 2 the
 arguments make no sense.
+Limits: years from -5,884,201 to 5,874,776.
 
 Examples:
   calvoro-cli month 2024-09 --iso
