@@ -83,18 +83,33 @@ void frmClearOneTextBox::keyPressEvent(QKeyEvent* event) {
     if (!event->isAutoRepeat()) QDialog::keyPressEvent(event);
 }
 
+// The toolkit frames what has the focus from the first key on only; here one must see what Enter would take.
+void frmClearOneTextBox::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 void frmClearOneTextBox::SetCaptions() {
     const auto shown = [this](TextId id) { return ToQt(texts_.Shown(id)); };
     setWindowTitle(shown(TextId::Clear));
     QString message =
         ToQt(ComputeMessageText(ComputeMessage::DifferenceMustBeEmpty, texts_.InterfaceLanguage)).trimmed();
     lblMessage->setText(message.remove(QLatin1Char('\r')));
+    WrapMessageWhereItMust();
     SetCaption(*optClearFirstDate, shown(TextId::FirstDate));
     SetCaption(*optClearDateDiff, shown(TextId::DateDifference));
     SetCaption(*optClearSecondDate, shown(TextId::SecondDate));
     SetCaption(*optCancel, shown(TextId::CancelThisOperation));
     SetCaption(*cmdContinue, shown(TextId::Continue));
     SetMnemonics({optClearFirstDate, optClearDateDiff, optClearSecondDate, optCancel, cmdContinue});
+}
+
+// The sentence has lines of its own; they are broken only where the screen is too narrow for them.
+void frmClearOneTextBox::WrapMessageWhereItMust() {
+    lblMessage->setWordWrap(false);
+    const QMargins around = lblMessage->parentWidget()->layout()->contentsMargins();
+    const int needed = around.left() + lblMessage->sizeHint().width() + around.right();
+    lblMessage->setWordWrap(needed > RoomOnScreen(*this).width());
 }
 
 void frmClearOneTextBox::Place() {

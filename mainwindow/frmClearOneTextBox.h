@@ -31,9 +31,11 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void SetCaptions();
+    void WrapMessageWhereItMust();
     void Place();
 
     QWidget& mainWindow_;

@@ -158,6 +158,41 @@ private Q_SLOTS:
         QCOMPARE(main.Boxes(), (QStringList{"2024-02-29", "7", "2024-03-01"}));
     }
 
+    // Not only from the first key on: the keys that work in a window depend on it.
+    void TheFocusIsSeenWhenAWindowOpens() {
+        MainWindowFixture main;
+        StartWithOutput(main);
+        main.Fill("2024-02-29", "7", "2024-03-01");
+        QStringList seen;
+        const auto look = [&seen](QWidget& window) {
+            QWidget& control = *QApplication::focusWidget();
+            const QImage with = Picture(control);
+            control.clearFocus();
+            if (Picture(control) != with) seen.push_back(control.objectName());
+            window.close();
+        };
+        WhileModal(look);
+        main.Click("cmdCompute");
+        QCOMPARE(seen, QStringList{"optClearDateDiff"});
+
+        main.Activate();
+        main.Click("cmdDisplayMonth");
+        auto* month = OpenedWindow<frmDisplayMonth>();
+        QVERIFY(QTest::qWaitForWindowActive(month));
+        look(*month);
+        main.Activate();
+        main.Click("cmdHelp");
+        auto* help = OpenedWindow<frmHelp>();
+        QVERIFY(QTest::qWaitForWindowActive(help));
+        look(*help);
+        main.Activate();
+        main.Click("cmdEnlarge");
+        auto* enlarged = OpenedWindow<frmLargeDisplay>();
+        QVERIFY(QTest::qWaitForWindowActive(enlarged));
+        look(*enlarged);
+        QCOMPARE(seen, QStringList({"optClearDateDiff", "cmdClose", "txbMsg", "txbOutput"}));
+    }
+
     void TheFocusIsSeen_data() {
         QTest::addColumn<QPalette>("palette");
         QTest::newRow("light") << Light();

@@ -198,13 +198,30 @@ private Q_SLOTS:
         StartAsTheRowSays(main);
         main.Fill(u"2024-02-29"_s, u"1"_s, u"2024-03-01"_s);
         int checked = 0;
-        WhileModal([&checked](QWidget& dialog) {
+        int scrolledSideways = -1;
+        int roomForSentence = -1;
+        int roomBeside = -1;
+        bool wrapped = true;
+        WhileModal([&](QWidget& dialog) {
             QCoreApplication::processEvents();
             CheckReachable(dialog, checked);
+            const auto* page = dialog.findChild<ScrollingPage*>();
+            auto* sentence = dialog.findChild<QLabel*>(u"lblMessage"_s);
+            scrolledSideways = page->horizontalScrollBar()->maximum();
+            roomForSentence = page->viewport()->height() - sentence->height();
+            wrapped = sentence->wordWrap();
+            sentence->setWordWrap(false);
+            roomBeside = RoomOnScreen(dialog).width() - sentence->sizeHint().width();
             QTest::keyClick(&dialog, Qt::Key_Escape);
         });
         main.Button(u"cmdCompute"_s).click();
         QVERIFY(checked >= 5);
+        // A sentence is read by its lines, not by scrolling each of them.
+        QCOMPARE(scrolledSideways, 0);
+        QVERIFY(roomForSentence >= 0);
+        // Where the screen has room for its own lines, these are left as they are.
+        constexpr int kMargins = 40;  // pixels, more than are around it
+        QVERIFY(wrapped == (roomBeside < 0) || (roomBeside >= 0 && roomBeside < kMargins));
     }
 };
 
