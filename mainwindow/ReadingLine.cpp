@@ -1,9 +1,9 @@
 #include "mainwindow/ReadingLine.h"
 
-#include <QAccessible>
 #include <QApplication>
 
 #include "compute/ReadingText.h"
+#include "windows/AccessibleSilence.h"
 #include "windows/QtText.h"
 
 namespace calvoro {
@@ -12,9 +12,8 @@ namespace {
 // A screen reader would speak the new description of the box with the focus at every key that is typed. It
 // is there to be asked for, so nobody is told that it changed.
 void DescribeQuietly(QWidget& control, const QString& description) {
-    const QAccessible::UpdateHandler usual = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
+    const AccessibleSilence silence;
     control.setAccessibleDescription(description);
-    QAccessible::installUpdateHandler(usual);
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include "windows/LineBox.h"
 
-#include <QAccessible>
+#include "windows/AccessibleSilence.h"
 
 namespace calvoro {
 
 void LineBox::focusInEvent(QFocusEvent* event) {
-    const QAccessible::UpdateHandler usual = QAccessible::installUpdateHandler([](QAccessibleEvent*) {});
+    const AccessibleSilence silence;
     QLineEdit::focusInEvent(event);
-    QAccessible::installUpdateHandler(usual);
 }
 
 }  // namespace calvoro

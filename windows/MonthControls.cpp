@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "windows/AccessibleSilence.h"
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"
 #include "windows/Mnemonics.h"
@@ -77,6 +78,14 @@ void MonthControls::SetCaptions(const Texts& texts) {
     txbISODates->setAccessibleName(shown(TextId::ISOWeekDate));
 }
 
+void MonthControls::DescribeMonth(LanguageNumber language) {
+    const AccessibleSilence silence;
+    cboMonths->setAccessibleDescription(cboMonths->currentText() +
+                                        (language == LanguageGerman
+                                             ? QStringLiteral("; eine Pfeiltaste oeffnet die Liste")
+                                             : QStringLiteral("; an arrow key opens the list")));
+}
+
 void MonthControls::FillMonths(const Texts& texts) {
     const QSignalBlocker blocker(cboMonths);
     const int chosen = std::max(0, cboMonths->currentIndex());
@@ -124,10 +133,14 @@ void MonthControls::Arrange() {
     heading->addWidget(cmdDisplay);
 
     const auto fill = [](QGroupBox* frame, QRadioButton* first, QRadioButton* second) {
-        auto* row = new QHBoxLayout;
+        // On a page of their own: the toolkit tells assistive tools that a group which options stand in
+        // directly is the label of each of them too, and a reader would say its name twice.
+        auto* page = new QWidget(frame);
+        auto* row = new QHBoxLayout(page);
+        row->setContentsMargins(0, 0, 0, 0);
         row->addWidget(first, 1);
         row->addWidget(second, 1);
-        frame->setLayout(row);
+        (new QHBoxLayout(frame))->addWidget(page);
     };
     fill(fraCalendar, optCommonEra, optJulian);
     fill(fraFirstDayOfWeek, optSunday, optMonday);

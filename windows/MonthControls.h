@@ -29,6 +29,10 @@ struct MonthControls {
     /// runs.
     void FillMonths(const Texts& texts);
 
+    /// Describes the list by the month that is chosen in it: a screen reader takes the label beside the list
+    /// for its name. Nobody is told, as the heading of the month is.
+    void DescribeMonth(LanguageNumber language);
+
     void SetIsoCaption(const QString& caption);
 
     /// The size to show the window with: wide enough for the ISO box, which may come later.

@@ -191,6 +191,7 @@ void frmDisplayMonth::SetTitle() {
 // Draws grid and, when it is shown, the ISO column.
 // returns false, leaving the old ones, when there is no such year or it cannot be shown
 bool frmDisplayMonth::Draw() {
+    ui_.DescribeMonth(texts_.InterfaceLanguage);
     const std::optional<std::int32_t> year = ReadYear(ui_.txbYear->text().toStdString());
     if (!year) return false;
     const CalendarCode calendar = ui_.optJulian->isChecked() ? CalendarCode::J : CalendarCode::G;
