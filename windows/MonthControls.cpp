@@ -9,6 +9,7 @@
 #include "windows/AccessibleSilence.h"
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"
+#include "windows/KeyLabel.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
 #include "windows/QtText.h"
@@ -23,9 +24,9 @@ constexpr int kLines = 7;          // heading and six weeks
 }  // namespace
 
 MonthControls::MonthControls(QWidget& window)
-    : lblMonth(Named(new QLabel(&window), "lblMonth")),
+    : lblMonth(Named(new KeyLabel(&window), "lblMonth")),
       cboMonths(Named(new MonthList(&window), "cboMonths")),
-      lblYear(Named(new QLabel(&window), "lblYear")),
+      lblYear(Named(new KeyLabel(&window), "lblYear")),
       txbYear(Named(new LineBox(&window), "txbYear")),
       cmdDisplay(Named(new CaptionButton(&window), "cmdDisplay")),
       txbMonth(Named(new FixedPitchBox(kMonthColumns, kLines, &window), "txbMonth")),

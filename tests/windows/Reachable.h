@@ -35,11 +35,22 @@ inline std::string Described(const QWidget& control, const char* fault) {
         .toStdString();
 }
 
+/// The room that the words of a label need. The underlined letter is drawn apart from the others, without the
+/// kerning that draws them together where they are measured as a whole.
+inline QSize RoomForLabel(const QLabel& label) {
+    if (label.wordWrap()) return {0, label.heightForWidth(label.width())};
+    const qsizetype key = label.text().indexOf(QLatin1Char('&'));
+    if (key < 0) return label.minimumSizeHint();
+    const QString words = Caption(label);
+    const QFontMetrics metrics = label.fontMetrics();
+    return {metrics.horizontalAdvance(words.left(key)) + metrics.horizontalAdvance(words.at(key)) +
+                metrics.horizontalAdvance(words.mid(key + 1)),
+            label.minimumSizeHint().height()};
+}
+
 /// The room that the words of a control need.
 inline QSize RoomForWords(const QWidget& control) {
-    if (const auto* label = qobject_cast<const QLabel*>(&control)) {
-        return label->wordWrap() ? QSize(0, label->heightForWidth(label->width())) : label->minimumSizeHint();
-    }
+    if (const auto* label = qobject_cast<const QLabel*>(&control)) return RoomForLabel(*label);
     if (qobject_cast<const QToolButton*>(&control) != nullptr) return {};
     if (qobject_cast<const QAbstractButton*>(&control) != nullptr) return control.minimumSizeHint();
     if (qobject_cast<const QComboBox*>(&control) != nullptr) return control.sizeHint();
