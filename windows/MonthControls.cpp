@@ -9,6 +9,7 @@
 #include "windows/AccessibleSilence.h"
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"
+#include "windows/GroupPage.h"
 #include "windows/KeyLabel.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
@@ -134,14 +135,10 @@ void MonthControls::Arrange() {
     heading->addWidget(cmdDisplay);
 
     const auto fill = [](QGroupBox* frame, QRadioButton* first, QRadioButton* second) {
-        // On a page of their own: the toolkit tells assistive tools that a group which options stand in
-        // directly is the label of each of them too, and a reader would say its name twice.
-        auto* page = new QWidget(frame);
-        auto* row = new QHBoxLayout(page);
+        auto* row = new QHBoxLayout(GroupPage(*frame));
         row->setContentsMargins(0, 0, 0, 0);
         row->addWidget(first, 1);
         row->addWidget(second, 1);
-        (new QHBoxLayout(frame))->addWidget(page);
     };
     fill(fraCalendar, optCommonEra, optJulian);
     fill(fraFirstDayOfWeek, optSunday, optMonday);

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 
+#include "tests/windows/GroupTesting.h"
 #include "tests/windows/MonthWindow.h"
 #include "windows/frmDisplayMonth.h"
 
@@ -37,14 +38,7 @@ private Q_SLOTS:
         QFETCH(const QString, group);
         MonthWindow month;
         month.ShowMonth("2024", 2);
-        QAccessibleInterface& control = Of(month.Option(qPrintable(option)));
-        // As what it is in, and not as its label besides.
-        QVERIFY(control.relations(QAccessible::Label).isEmpty());
-        QStringList groups;
-        for (QAccessibleInterface* around = control.parent(); around != nullptr; around = around->parent()) {
-            if (around->role() == QAccessible::Grouping) groups.push_back(around->text(QAccessible::Name));
-        }
-        QCOMPARE(groups, QStringList{group});
+        CheckGroupIsToldOnce(month.Option(qPrintable(option)), group);
     }
 
     // A reader takes the label of the list for its name, and has the month that is chosen from nowhere else.

@@ -6,6 +6,7 @@
 
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"
+#include "windows/GroupPage.h"
 #include "windows/Mnemonics.h"
 #include "windows/QtText.h"
 
@@ -52,7 +53,9 @@ void ListControls::Arrange() {
         for (QWidget* control : right) line->addWidget(control);
         return line;
     };
-    fraLinesAre->setLayout(row({optLinesAreFirst, optLinesAreSecond}, {}));
+    QHBoxLayout* options = row({optLinesAreFirst, optLinesAreSecond}, {});
+    options->setContentsMargins(0, 0, 0, 0);
+    GroupPage(*fraLinesAre)->setLayout(options);
     auto* progress = new QHBoxLayout;
     progress->addWidget(prgJob, 1);
     progress->addWidget(cmdStop);

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QMimeData>
 
+#include "tests/windows/GroupTesting.h"
 #include "tests/windows/list/ListWindow.h"
 
 using namespace calvoro;
@@ -53,6 +54,13 @@ private Q_SLOTS:
         QTRY_COMPARE(list.State(), u"4 lines, 1 refusal"_s);
         list.Give(u"1"_s);
         QTRY_COMPARE(list.State(), u"1 line, 0 refusals"_s);
+    }
+
+    void TheGroupOfTheOptionsIsToldOnce() {
+        ListWindow list;
+        list.Open();
+        CheckGroupIsToldOnce(list.Button("optLinesAreFirst"), u"The lines are"_s);
+        CheckGroupIsToldOnce(list.Button("optLinesAreSecond"), u"The lines are"_s);
     }
 
     void SpeaksGerman() {
