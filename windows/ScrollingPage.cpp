@@ -8,13 +8,26 @@
 #include "windows/Placement.h"
 
 namespace calvoro {
+namespace {
+
+// A page with a text that is broken into lines is asked for its height at a width, and would tell the one
+// that it likes best: the window would scroll although a table or a text box could give way.
+class PageThatGivesWay : public QWidget {
+public:
+    int heightForWidth(int width) const override {
+        if (layout() == nullptr || !layout()->hasHeightForWidth()) return QWidget::heightForWidth(width);
+        return layout()->totalMinimumHeightForWidth(width);
+    }
+};
+
+}  // namespace
 
 ScrollingPage::ScrollingPage(QWidget& window) : QScrollArea(&window) {
     setObjectName(QStringLiteral("scrollingPage"));
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
-    setWidget(new QWidget);
+    setWidget(new PageThatGivesWay);
     auto* fill = new QVBoxLayout(&window);
     fill->setContentsMargins(0, 0, 0, 0);
     fill->addWidget(this);

@@ -103,8 +103,9 @@ private Q_SLOTS:
         QCOMPARE(cells->rowCount(), 2);
         QCOMPARE(cells->columnDescription(1), u"Read as"_s);
         QCOMPARE(cells->cellAt(0, 3)->text(QAccessible::Name), u"Thursday"_s);
-        QCOMPARE(Of(*list->findChild<QWidget*>(u"fraLinesAre"_s)).text(QAccessible::Name),
-                 u"The lines are"_s);
+        const QAccessibleInterface& group = *Of(*list->findChild<QWidget*>(u"optLinesAreFirst"_s)).parent();
+        QCOMPARE(group.role(), QAccessible::Grouping);
+        QCOMPARE(group.text(QAccessible::Name), u"The lines are"_s);
     }
 
     void EveryGroupHasAName_data() {

@@ -5,6 +5,8 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QMimeData>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "tests/windows/GroupTesting.h"
 #include "tests/windows/list/ListWindow.h"
@@ -61,6 +63,18 @@ private Q_SLOTS:
         list.Open();
         CheckGroupIsToldOnce(list.Button("optLinesAreFirst"), u"The lines are"_s);
         CheckGroupIsToldOnce(list.Button("optLinesAreSecond"), u"The lines are"_s);
+    }
+
+    void TheTableGivesWayBeforeTheWindowScrolls() {
+        ListWindow list;
+        list.Open();
+        list.Give(u"1\nx\n\n4\n"_s);
+        auto& page = Control<QScrollArea>(list.window, "scrollingPage");
+        const int table = list.Table().sizeHint().height();
+        list.window.resize(list.window.width(), list.window.sizeHint().height() - table / 2);
+        QCoreApplication::processEvents();
+        QCOMPARE(page.verticalScrollBar()->maximum(), 0);
+        QVERIFY(list.Table().height() < table);
     }
 
     void SpeaksGerman() {
