@@ -4,6 +4,7 @@ import json
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import time
@@ -11,10 +12,13 @@ import time
 HERE = pathlib.Path(__file__).resolve().parent
 sys.path.insert(0, str(HERE.parent / "program"))
 from desktop import Desktop, settings_text, wait_for  # noqa: E402, F401
+from rest import at_rest  # noqa: E402
 
 PYTHON = "/usr/bin/python3"  # the distribution's, which has the modules for the bus
 BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
-SILENCE = float(os.environ.get("CALVORO_READER_SILENCE", "1.5"))  # seconds after which the reader has finished
+SILENCE = float(os.environ.get("CALVORO_READER_SILENCE", "1"))  # seconds of rest after which it has finished
+LOOK = 0.1  # seconds between two looks at it
+RESTLESS = 300  # seconds after which it is given up
 DATE = re.compile(r"(Today is|A week from today is|Heute ist|Eine Woche weiter ist) [^\"]*?"
                   r"(CE|ISO|JC|ORD|LPM|LPW|JDN)\b")
 
@@ -56,6 +60,11 @@ class ReaderDesktop(Desktop):
             "dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus", "/org/a11y/bus",
             "org.a11y.Bus.GetAddress").returncode == 0)
 
+    def type(self, text):
+        # Each key goes to the reader first, which the toolkit gives a tenth of a second before it goes on
+        # without it; keys that come faster could overtake each other.
+        self.tool("xdotool", "type", "--delay", "150", text)
+
     def key_of(self, control):
         """The access key of a control, named as "frmMain.cmdEnlarge", in the language that is set."""
         if self.language not in self.keys_by_language:
@@ -90,8 +99,9 @@ class ReaderDesktop(Desktop):
             "log = logging.getLogger('speech')\n"
             "log.addHandler(handler)\n"
             "log.setLevel(logging.INFO)\n")
-        self.started.append(subprocess.Popen(["orca", "--disable", "braille"], env=self.environment(),
-                                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        self.started.append(subprocess.Popen(
+            [PYTHON, "-B", str(HERE / "another_orca.py"), shutil.which("orca"), "--disable", "braille"],
+            env=self.environment(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         wait_for("the screen reader", lambda: self.said())
         self.spoken()
 
@@ -102,14 +112,23 @@ class ReaderDesktop(Desktop):
         return [undated(words.strip()) for words in found if words.strip()]
 
     def spoken(self):
-        """What the reader has said since this was last asked, when it has been silent for a while."""
+        """What the reader has said since this was last asked, when it has finished.
+
+        Only the time counts in which nothing is said and nobody on this desktop is at work, or waits for a
+        processor: on a busy machine the reader may be silent for long before it says the next thing.
+        """
+        processes = [self.server.pid, *(process.pid for process in self.started if process.poll() is None)]
+        end = time.monotonic() + RESTLESS
+        length, rest = 0, 0.0
+        while rest < SILENCE:
+            assert time.monotonic() < end, "the screen reader does not come to rest"
+            time.sleep(LOOK)
+            now = self.log.stat().st_size
+            if now != length:
+                length, rest = now, 0.0
+            elif at_rest(processes):
+                rest += LOOK
         said = self.said()
-        while True:
-            time.sleep(SILENCE)
-            now = self.said()
-            if now == said:
-                break
-            said = now
         new = said[self.heard:]
         self.heard = len(said)
         return new
