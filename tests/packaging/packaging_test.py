@@ -6,6 +6,7 @@
 import os
 import pathlib
 import re
+import stat
 import struct
 import subprocess
 import sys
@@ -198,7 +199,8 @@ class Contents(unittest.TestCase):
         with Desktop(watched) as desktop:
             window = desktop.start()
             self.assertEqual(desktop.quit(window), 0)
-            self.assertTrue(desktop.settings_file.is_file())
+            self.assertEqual(stat.S_IMODE(desktop.settings_file.stat().st_mode), 0o600)
+            self.assertEqual(stat.S_IMODE(desktop.settings_file.parent.stat().st_mode), 0o700)
         sockets = log.read_text(encoding="utf-8")
         self.assertIn("AF_UNIX", sockets)  # the display; else nothing was watched
         self.assertNotIn("AF_INET", sockets)
