@@ -80,9 +80,11 @@ int ShowWindow(QApplication& application) {
     QtSettingsPlace place;
     const Platform platform{boxes, clipboard, clock, web, place, SystemDigitGrouping()};
 
-    if (!LoadTextsOrTell(QCoreApplication::applicationDirPath().toStdString(), boxes)) return EXIT_FAILURE;
+    const std::optional<Texts> texts =
+        LoadTextsOrTell(QCoreApplication::applicationDirPath().toStdString(), boxes);
+    if (!texts) return EXIT_FAILURE;
 
-    frmMain window(platform, Addresses());
+    frmMain window(platform, Addresses(), *texts);
     const auto end = [&window] { window.QuitAndSave(); };
     const EndingSignals endingSignals(end, nullptr);
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window, end, Qt::DirectConnection);

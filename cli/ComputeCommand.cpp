@@ -16,8 +16,6 @@
 #include "compute/ComputeClick.h"
 #include "platform/Streams.h"
 #include "platform/SystemClock.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
 
 namespace calvoro {
 namespace {
@@ -83,7 +81,6 @@ int AnswerJsonLines(Diagnostics& diagnostics) {
 }  // namespace
 
 int RunCompute(const ComputeArguments& arguments) {
-    LoadProgramTextsFromMemory(BuiltInProgramTexts());
     Diagnostics diagnostics(kStandardError);
     if (arguments.jsonLines) return AnswerJsonLines(diagnostics);
     if (arguments.json) return AnswerOnceInJson(arguments.request, diagnostics);

@@ -15,12 +15,10 @@
 #include "datetext/PrintableText.h"
 #include "platform/Streams.h"
 #include "platform/SystemClock.h"
-#include "text/BuiltInProgramTexts.h"
 #include "text/DateNames.h"
 #include "text/NamedTexts.h"
 #include "text/NumberedTexts.h"
-#include "text/ProgramText.h"
-#include "text/ProgramTextFile.h"
+#include "text/Texts.h"
 
 namespace calvoro {
 namespace {
@@ -60,8 +58,7 @@ std::string MonthPage(const YearMonth& shown, const MonthArguments& arguments) {
     std::string isoHeading;
     std::string isoDates;
     if (arguments.iso) {
-        LoadProgramTextsFromMemory(BuiltInProgramTexts());
-        isoHeading = GetProgramText(kIsoHeadingText, arguments.language);
+        isoHeading = Texts(arguments.language, arguments.language).GetProgramText(kIsoHeadingText);
         isoDates = DrawIsoWeekDates(grid.firstShownJdn, grid.weekRows, arguments.withYear, weekdays);
     }
     const TextId calendarName =

@@ -16,7 +16,7 @@ void ShowProgramTexts(std::initializer_list<NumberedText> numbers, ComputeWindow
     std::string prompt;
     for (const NumberedText number : numbers) {
         if (number != *numbers.begin()) prompt += "\r\n";
-        prompt += texts.Numbered(number);
+        prompt += texts.GetProgramText(number);
     }
     window.ShowMessage(prompt, texts.Shown(TextId::Compute));
 }

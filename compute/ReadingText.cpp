@@ -9,6 +9,7 @@
 #include "datetext/AnyNotation.h"
 #include "datetext/Blanks.h"
 #include "datetext/Tags.h"
+#include "text/DateNames.h"
 
 namespace calvoro {
 namespace {

@@ -7,6 +7,7 @@
 #include "compute/UnitWords.h"
 #include "datetext/AnyNotation.h"
 #include "datetext/Thousands.h"
+#include "text/DateNames.h"
 
 namespace calvoro {
 namespace {

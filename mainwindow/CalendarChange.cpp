@@ -61,8 +61,8 @@ CalendarChange::Outcome CalendarChange::Convert(const Side& side, CalendarNumber
 void CalendarChange::RestoreCalendar(const Side& side, Outcome outcome) {
     controls_.Calendars(side.box)->Choose(RowOf(kCalendarOptions, side.calendar));
     if (outcome == Outcome::Abandoned) return;
-    platform_.boxes.Show(state_.texts.Numbered(side.message), state_.texts.Numbered(kCannotConvertTitleText),
-                         MessageIcon::NoIcon);
+    platform_.boxes.Show(state_.texts.GetProgramText(side.message),
+                         state_.texts.GetProgramText(kCannotConvertTitleText), MessageIcon::NoIcon);
 }
 
 }  // namespace calvoro

@@ -8,6 +8,8 @@
 namespace calvoro {
 
 struct MainState {
+    explicit MainState(const Texts& loaded) : texts(loaded) {}
+
     Texts texts;
     ComputeState compute;
 

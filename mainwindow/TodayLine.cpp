@@ -2,6 +2,7 @@
 
 #include "calendar/Today.h"
 #include "datetext/TodayText.h"
+#include "text/DateNames.h"
 #include "windows/QtText.h"
 
 namespace calvoro {

@@ -30,12 +30,13 @@ const QString kVersionInTitle = QStringLiteral(" " CALVORO_VERSION_IN_TITLE);
 
 }  // namespace
 
-frmMain::frmMain(const Platform& platform, WebAddresses addresses)
+frmMain::frmMain(const Platform& platform, WebAddresses addresses, const Texts& texts)
     : platform_(platform),
       addresses_(std::move(addresses)),
-      settingsFilePath_(SettingsFilePath(platform_.place.BaseFolder(),
-                                         GetProgramText(kSettingsFolderText, LanguageEnglish))),
+      settingsFilePath_(
+          SettingsFilePath(platform_.place.BaseFolder(), texts.GetProgramText(kSettingsFolderText))),
       controls_(this),
+      state_(texts),
       options_(controls_, platform_.digitGrouping),
       listRows_(boxes_, options_, state_),
       windows_(*this, platform_, addresses_, state_, listRows_),
@@ -282,9 +283,9 @@ void frmMain::OnDisplayMonth() {
 
 void frmMain::OnReset() {
     const Texts& texts = state_.texts;
-    const std::string question = texts.Numbered(kResetDeletesText) + "\r\n" +
-                                 texts.Numbered(kResetRestoresText) + "\r\n" +
-                                 texts.Numbered(kResetQuestionText);
+    const std::string question = texts.GetProgramText(kResetDeletesText) + "\r\n" +
+                                 texts.GetProgramText(kResetRestoresText) + "\r\n" +
+                                 texts.GetProgramText(kResetQuestionText);
     if (platform_.boxes.AskYesNo(question, texts.Shown(TextId::Reset))) {
         DeleteSettingsFile(settingsFilePath_);
         ApplyDefaultSettings();

@@ -32,10 +32,9 @@ class frmMain : public QWidget {
     Q_OBJECT
 
 public:
-    /// Builds the window without showing it. The numbered texts must be loaded: one of them names the
-    /// folder of the settings file.
+    /// Builds the window without showing it.
     /// platform  what it refers to must outlive the window
-    frmMain(const Platform& platform, WebAddresses addresses);
+    frmMain(const Platform& platform, WebAddresses addresses, const Texts& texts);
 
     /// Captions, title, showing, settings, clock and today's date, in the order in which they depend on
     /// each other. Called once.

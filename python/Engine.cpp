@@ -23,9 +23,7 @@
 #include "python/Reckoning.h"
 #include "python/TextColumn.h"
 #include "quicktext/QuickWriter.h"
-#include "text/BuiltInProgramTexts.h"
 #include "text/DateNames.h"
-#include "text/ProgramTextFile.h"
 
 namespace py = pybind11;
 
@@ -344,7 +342,6 @@ std::string Compute(const std::string& request) {
 PYBIND11_MODULE(_engine, module) {
     using namespace calvoro;
     module.doc() = "The engine of calvoro, for whole columns. Use the functions of calvoro itself.";
-    LoadProgramTextsFromMemory(BuiltInProgramTexts());
     py::register_exception<ArithmeticOverflow>(module, "ArithmeticOverflow", PyExc_OverflowError);
 
     py::class_<Form>(module, "Form", "Reader and writer of a notation under one set of options.")

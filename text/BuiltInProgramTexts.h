@@ -1,7 +1,7 @@
 #pragma once
 
 // The contents of calvoro.dat as they were when the program was built, for a program that must work without
-// a file beside it: LoadProgramTextsFromMemory(BuiltInProgramTexts()).
+// a file beside it.
 
 #include <string_view>
 

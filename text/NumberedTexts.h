@@ -1,6 +1,6 @@
 #pragma once
 
-// The numbers of the program texts in calvoro.dat, for Texts::Numbered and GetProgramText.
+// The numbers of the program texts in calvoro.dat, for Texts::GetProgramText.
 
 #include <cstdint>
 

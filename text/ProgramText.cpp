@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "text/ProgramTextFile.h"
-
 namespace calvoro {
 namespace {
 
@@ -34,9 +32,6 @@ constexpr std::array<LineMessage, 3> kLineMessages = {{
     {-500, "Missing string at line"},
 }};
 
-// The size of the buffer that texts are fetched into, the NUL at its end included.
-constexpr std::size_t kTextBufferSize = 1024;
-
 }  // namespace
 
 std::string ProgramTextMessage(std::int32_t result, std::string_view path) {
@@ -54,21 +49,13 @@ std::string ProgramTextMessage(std::int32_t result, std::string_view path) {
     return "Error " + std::to_string(result);
 }
 
-std::string LoadProgramText(std::string_view folder, std::string_view fileName) {
+LoadedTexts LoadProgramText(std::string_view folder, std::string_view fileName) {
     std::string path(folder);
     if (!folder.ends_with('/') && !folder.ends_with('\\')) path += '/';
     path += fileName;
-    return ProgramTextMessage(lt(path.c_str(), 0), path);
-}
-
-std::string GetProgramText(std::int16_t number, LanguageNumber textLanguage) {
-    std::array<char, kTextBufferSize> buffer{};
-    const std::int32_t length =
-        gt(number, textLanguage, buffer.data(), static_cast<std::int32_t>(buffer.size()), 1);
-    if (length <= 0) return "";
-    std::string text(buffer.data(), static_cast<std::size_t>(length));
-    if (text == "~") return "";  // how the file writes an empty text
-    return text;
+    const ProgramTextReading read = ReadProgramTextFile(path.c_str());
+    if (!read.texts) return {.texts = {}, .message = ProgramTextMessage(read.result, path)};
+    return {.texts = Texts(*read.texts), .message = {}};
 }
 
 }  // namespace calvoro

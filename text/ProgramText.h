@@ -1,12 +1,13 @@
 #pragma once
 
-// Loading the numbered texts and reading one of them.
+// Loading the numbered texts from the program's folder, and what to say when that fails.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "text/Language.h"
+#include "text/Texts.h"
 
 namespace calvoro {
 
@@ -14,12 +15,14 @@ namespace calvoro {
 /// path  the full path of the file, named in the message when it cannot be opened
 std::string ProgramTextMessage(std::int32_t result, std::string_view path);
 
-/// Loads a program text file. Ends nothing: the program's entry shows the message and ends.
-/// folder   the program's folder; one separator is put between it and the file name
-/// returns  the message to show, empty when the texts are loaded
-std::string LoadProgramText(std::string_view folder, std::string_view fileName);
+/// What loading gives: texts, or the message that tells why there are none.
+struct LoadedTexts {
+    std::optional<Texts> texts;
+    std::string message;
+};
 
-/// A numbered text; "" when there is none in this language or when it is "~".
-std::string GetProgramText(std::int16_t number, LanguageNumber textLanguage);
+/// Loads a program text file. Ends nothing: the program's entry shows the message and ends.
+/// folder  the program's folder; one separator is put between it and the file name
+LoadedTexts LoadProgramText(std::string_view folder, std::string_view fileName);
 
 }  // namespace calvoro

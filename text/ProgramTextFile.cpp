@@ -6,9 +6,7 @@
 #include <cstring>
 #include <memory>
 #include <new>
-#include <string>
 #include <system_error>
-#include <unordered_map>
 #include <utility>
 
 namespace calvoro {
@@ -28,13 +26,9 @@ constexpr std::int32_t kDuplicateAtLine = -1500;
 constexpr std::int32_t kMaxLines = 500;
 constexpr std::size_t kMaxTextBytes = 1023;
 constexpr std::size_t kMaxFileBytes = std::size_t{4} << 20;  // far above 500 full lines
-constexpr std::size_t kLanguages = 3;
 
-using TextRow = std::array<std::string, kLanguages>;
-using TextTable = std::unordered_map<std::int32_t, TextRow>;
-
-TextTable& LoadedTexts() {
-    static TextTable loaded;
+std::optional<ProgramTexts>& LoadedForGt() {
+    static std::optional<ProgramTexts> loaded;
     return loaded;
 }
 
@@ -51,39 +45,6 @@ bool ReadNumber(std::string_view field, std::int32_t& number) {
     const char* end = field.data() + field.size();
     const std::from_chars_result result = std::from_chars(field.data(), end, number);
     return result.ec == std::errc() && result.ptr == end;
-}
-
-// 0, or the code of the line's fault.
-std::int32_t AddLine(std::string_view line, std::int32_t lineNumber, TextTable& table) {
-    std::int32_t number = 0;
-    if (!ReadNumber(TakeUpTo('\t', line), number)) return kNoNumber;
-    if (table.contains(number)) return kDuplicateAtLine - lineNumber;
-
-    std::array<std::string_view, kLanguages> texts;
-    for (std::string_view& text : texts) text = TakeUpTo('\t', line);
-    if (texts[0].empty()) return kMissingTextAtLine - lineNumber;
-    for (const std::string_view text : texts) {
-        if (text.size() > kMaxTextBytes) return kTextTooLongAtLine - lineNumber;
-    }
-    table.emplace(number, TextRow{std::string(texts[0]), std::string(texts[1]), std::string(texts[2])});
-    return 0;
-}
-
-std::int32_t ReadTable(std::string_view bytes, TextTable& table) {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (bytes.empty()) return kFileIsEmpty;
-    if (bytes.size() > kMaxFileBytes) return kTooMuchText;
-    if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
-
-    std::int32_t lineNumber = 0;
-    while (!bytes.empty()) {
-        std::string_view line = TakeUpTo('\n', bytes);
-        if (++lineNumber > kMaxLines) return kTooMuchText;
-        if (line.starts_with('#')) continue;
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        if (const std::int32_t fault = AddLine(line, lineNumber, table); fault != 0) return fault;
-    }
-    return table.empty() ? kNoText : static_cast<std::int32_t>(table.size());
 }
 
 struct CloseFile {
@@ -105,36 +66,74 @@ std::int32_t ReadFile(const char* path, std::string& bytes) {
 
 }  // namespace
 
-std::int32_t lt(const char* path, std::int32_t /*mode*/) {
+// 0, or the code of the line's fault.
+std::int32_t ProgramTexts::AddLine(std::string_view line, std::int32_t lineNumber, Table& table) {
+    std::int32_t number = 0;
+    if (!ReadNumber(TakeUpTo('\t', line), number)) return kNoNumber;
+    if (table.contains(number)) return kDuplicateAtLine - lineNumber;
+
+    std::array<std::string_view, 3> texts;
+    for (std::string_view& text : texts) text = TakeUpTo('\t', line);
+    if (texts[0].empty()) return kMissingTextAtLine - lineNumber;
+    for (const std::string_view text : texts) {
+        if (text.size() > kMaxTextBytes) return kTextTooLongAtLine - lineNumber;
+    }
+    table.emplace(number,
+                  Table::mapped_type{std::string(texts[0]), std::string(texts[1]), std::string(texts[2])});
+    return 0;
+}
+
+std::int32_t ProgramTexts::ReadTable(std::string_view bytes, Table& table) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.empty()) return kFileIsEmpty;
+    if (bytes.size() > kMaxFileBytes) return kTooMuchText;
+    if (bytes.starts_with(kByteOrderMark)) bytes.remove_prefix(kByteOrderMark.size());
+
+    std::int32_t lineNumber = 0;
+    while (!bytes.empty()) {
+        std::string_view line = TakeUpTo('\n', bytes);
+        if (++lineNumber > kMaxLines) return kTooMuchText;
+        if (line.starts_with('#')) continue;
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        if (const std::int32_t fault = AddLine(line, lineNumber, table); fault != 0) return fault;
+    }
+    return table.empty() ? kNoText : static_cast<std::int32_t>(table.size());
+}
+
+ProgramTexts::ProgramTexts(Table table) : table_(std::make_shared<const Table>(std::move(table))) {}
+
+std::string_view ProgramTexts::Find(std::int32_t number, std::int32_t language) const {
+    const auto row = table_->find(number);
+    if (row == table_->end() || language < 0 || language >= static_cast<std::int32_t>(row->second.size()))
+        return {};
+    return row->second[static_cast<std::size_t>(language)];
+}
+
+ProgramTextReading ReadProgramTexts(std::string_view bytes) {
+    try {
+        ProgramTexts::Table table;
+        const std::int32_t result = ProgramTexts::ReadTable(bytes, table);
+        if (result <= 0) return {.result = result, .texts = {}};
+        return {.result = result, .texts = ProgramTexts(std::move(table))};
+    } catch (const std::bad_alloc&) {
+        return {.result = kNoMemoryForTexts, .texts = {}};
+    }
+}
+
+ProgramTextReading ReadProgramTextFile(const char* path) {
     std::string bytes;
     try {
-        if (const std::int32_t failure = ReadFile(path, bytes); failure != 0) return failure;
+        if (const std::int32_t failure = ReadFile(path, bytes); failure != 0) {
+            return {.result = failure, .texts = {}};
+        }
     } catch (const std::bad_alloc&) {
-        return kNoMemoryForFile;
+        return {.result = kNoMemoryForFile, .texts = {}};
     }
-    return LoadProgramTextsFromMemory(bytes);
+    return ReadProgramTexts(bytes);
 }
 
-std::int32_t LoadProgramTextsFromMemory(std::string_view bytes) {
-    try {
-        TextTable table;
-        const std::int32_t result = ReadTable(bytes, table);
-        if (result > 0) LoadedTexts() = std::move(table);
-        return result;
-    } catch (const std::bad_alloc&) {
-        return kNoMemoryForTexts;
-    }
-}
-
-std::int32_t gt(std::int32_t number, std::int32_t language, char* buffer, std::int32_t capacity,
-                std::int32_t /*flag*/) {
+std::int32_t CopyText(std::string_view text, char* buffer, std::int32_t capacity) {
     if (capacity <= 0) return 0;
-    buffer[0] = '\0';
-    if (language < 0 || language >= static_cast<std::int32_t>(kLanguages)) return 0;
-    const auto row = LoadedTexts().find(number);
-    if (row == LoadedTexts().end()) return 0;
-
-    const std::string& text = row->second[static_cast<std::size_t>(language)];
     std::size_t length = text.size();
     if (const auto room = static_cast<std::size_t>(capacity) - 1; length > room) {
         length = room;
@@ -144,6 +143,18 @@ std::int32_t gt(std::int32_t number, std::int32_t language, char* buffer, std::i
     std::memcpy(buffer, text.data(), length);
     buffer[length] = '\0';
     return static_cast<std::int32_t>(length);
+}
+
+std::int32_t lt(const char* path, std::int32_t /*mode*/) {
+    const ProgramTextReading read = ReadProgramTextFile(path);
+    if (read.texts) LoadedForGt() = read.texts;
+    return read.result;
+}
+
+std::int32_t gt(std::int32_t number, std::int32_t language, char* buffer, std::int32_t capacity,
+                std::int32_t /*flag*/) {
+    const std::optional<ProgramTexts>& texts = LoadedForGt();
+    return CopyText(texts ? texts->Find(number, language) : std::string_view(), buffer, capacity);
 }
 
 }  // namespace calvoro

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "text/DateNames.h"
 #include "windows/AccessibleSilence.h"
 #include "windows/CaptionButton.h"
 #include "windows/Controls.h"

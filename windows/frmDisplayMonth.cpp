@@ -9,6 +9,7 @@
 
 #include "calendar/CheckedInt.h"
 #include "datetext/Blanks.h"
+#include "text/DateNames.h"
 #include "text/NumberedTexts.h"
 #include "windows/AccessibleRole.h"
 #include "windows/Controls.h"
@@ -42,7 +43,7 @@ frmDisplayMonth::frmDisplayMonth(const Platform& platform, Texts& texts, QWidget
     setWindowIcon(mainWindow.windowIcon());
 
     ui_.FillMonths(texts);
-    ui_.SetIsoCaption(ToQt(texts.Numbered(kDisplayIsoText)));
+    ui_.SetIsoCaption(ToQt(texts.GetProgramText(kDisplayIsoText)));
     SetCaptions();
     ConnectControls();
     new WindowActivation(*this, [this] { OnActivated(); });
@@ -259,7 +260,7 @@ void frmDisplayMonth::UpdateIsoButton() {
 }
 
 void frmDisplayMonth::OnShowHideISO() {
-    ui_.SetIsoCaption(ToQt(texts_.Numbered(isoShown_ ? kDisplayIsoText : kHideIsoText)));
+    ui_.SetIsoCaption(ToQt(texts_.GetProgramText(isoShown_ ? kDisplayIsoText : kHideIsoText)));
     isoShown_ = !isoShown_;
     ui_.SetIsoBoxShown(isoShown_);
     if (isoShown_) ShowIsoDates();
@@ -325,7 +326,7 @@ void frmDisplayMonth::OnCopyToClipboard() {
     const std::string text = CopiedMonthText(
         ShownMonthName(texts_.InterfaceLanguage, ui_.cboMonths->currentIndex()),
         ui_.txbYear->text().toStdString(), texts_.Shown(calendar), CrLfText(*ui_.txbMonth),
-        texts_.Numbered(kIsoHeadingText), isoShown_ ? CrLfText(*ui_.txbISODates) : std::string());
+        texts_.GetProgramText(kIsoHeadingText), isoShown_ ? CrLfText(*ui_.txbISODates) : std::string());
     clipboard_.Clear();
     clipboard_.SetText(text);
     ui_.cmdClose->setFocus();

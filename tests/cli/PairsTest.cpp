@@ -14,8 +14,6 @@
 #include "compute/ComputeClick.h"
 #include "datetext/AnyNotation.h"
 #include "tests/support/FakeComputeWindow.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
 
 namespace calvoro {
 namespace {
@@ -84,7 +82,6 @@ std::string ResultOf(FakeComputeWindow& window) {
 }
 
 TEST(Between, CountsWhatAClickCounts) {
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
     Draw draw(5);
     int counted = 0;
     int withParts = 0;
@@ -128,7 +125,6 @@ TEST(Between, CountsWhatAClickCounts) {
 }
 
 TEST(Add, FindsWhatAClickFinds) {
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
     Draw draw(7);
     int found = 0;
     int refused = 0;

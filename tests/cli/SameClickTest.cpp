@@ -16,8 +16,6 @@
 #include "cli/JsonLines.h"
 #include "compute/ComputeClick.h"
 #include "tests/support/FakeComputeWindow.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
 
 namespace calvoro {
 namespace {
@@ -181,7 +179,6 @@ private:
 };
 
 TEST(SameClick, GivesTheSameThroughAWindowAndThroughJson) {
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
     const ClockOfOneDay clock;
     std::mt19937 random(20240229);
     int clicks = 0;

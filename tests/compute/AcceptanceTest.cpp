@@ -8,8 +8,6 @@
 
 #include "compute/ComputeClick.h"
 #include "tests/support/FakeComputeWindow.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
 
 namespace calvoro {
 namespace {
@@ -30,10 +28,7 @@ void PrintTo(const ExampleCase& row, std::ostream* out) {
     *out << row.name;
 }
 
-class AcceptanceTest : public testing::TestWithParam<ExampleCase> {
-protected:
-    void SetUp() override { ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0); }
-};
+class AcceptanceTest : public testing::TestWithParam<ExampleCase> {};
 
 TEST_P(AcceptanceTest, Holds) {
     const ExampleCase& row = GetParam();

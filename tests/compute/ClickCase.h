@@ -11,8 +11,6 @@
 #include "compute/ComputeClick.h"
 #include "tests/support/FakeComputeWindow.h"
 #include "tests/support/RowName.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
 
 namespace calvoro {
 
@@ -32,10 +30,7 @@ inline void PrintTo(const ClickCase& row, std::ostream* out) {
     *out << row.name;
 }
 
-class ClickTest : public testing::TestWithParam<ClickCase> {
-protected:
-    void SetUp() override { ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0); }
-};
+class ClickTest : public testing::TestWithParam<ClickCase> {};
 
 /// Clicks and compares every effect; the texts of the row must be trimmed ones.
 inline void ExpectClick(const ClickCase& row) {

@@ -324,7 +324,6 @@ INSTANTIATE_TEST_SUITE_P(
     RowName<ClickCase>);
 
 TEST(MonthsTest, RefuseEveryPairOfUnequalCalendars) {
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
     int pairs = 0;
     for (const Notation& first : Notations()) {
         for (const Notation& second : Notations()) {
@@ -357,7 +356,6 @@ TEST(MonthsTest, DeliberateDifferenceOfZeroNeverFails) {
 }
 
 TEST(MonthsTest, TwoDatesSwitchTheWindowToDaysAndTheNextClickCounts) {
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
     FakeComputeWindow window("2021-03-04", "", "2021-03-14");
     Months(window);
     window.options.verbose = false;

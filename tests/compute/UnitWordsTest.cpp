@@ -23,7 +23,7 @@ class UnitWordsTest : public testing::TestWithParam<WordCase> {};
 
 TEST_P(UnitWordsTest, FollowANumber) {
     const WordCase& row = GetParam();
-    const Texts texts{row.language, LanguageEnglish};
+    const Texts texts(row.language, LanguageEnglish);
     EXPECT_EQ(DayOrDays(row.number, texts), row.days);
     EXPECT_EQ(MonthOrMonths(row.number, texts), row.months);
 }

@@ -11,8 +11,6 @@
 
 #include "cli/JsonLines.h"
 #include "platform/Clock.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
 
 namespace {
 
@@ -62,8 +60,6 @@ void CheckLine(std::string_view line) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const bool loaded = calvoro::LoadProgramTextsFromMemory(calvoro::BuiltInProgramTexts()) > 0;
-    Require(loaded);
     std::string lines(size, '\0');
     for (std::size_t i = 0; i < size; ++i) lines[i] = static_cast<char>(data[i]);
     std::string_view rest = lines;

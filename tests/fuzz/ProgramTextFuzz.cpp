@@ -24,15 +24,15 @@ bool IsDocumentedResult(std::int32_t result) {
     return result <= -501 && result >= -2000;
 }
 
-std::string Fetch(std::int32_t number, std::int32_t language, std::int32_t capacity) {
+std::string Copied(std::string_view text, std::int32_t capacity) {
     std::array<char, 1024> buffer{};
-    const std::int32_t length = calvoro::gt(number, language, buffer.data(), capacity, 1);
+    const std::int32_t length = calvoro::CopyText(text, buffer.data(), capacity);
     Require(length >= 0 && length < capacity);
     Require(buffer[static_cast<std::size_t>(length)] == '\0');
     return std::string(buffer.data(), static_cast<std::size_t>(length));
 }
 
-void CheckLine(std::string_view line) {
+void CheckLine(const calvoro::ProgramTexts& texts, std::string_view line) {
     std::int32_t number = -1;
     std::from_chars(line.data(), line.data() + line.size(), number);
     Require(number >= 0);
@@ -40,8 +40,9 @@ void CheckLine(std::string_view line) {
     for (std::int32_t language = 0; language < 3; ++language) {
         const std::string_view text = rest.substr(0, rest.find('\t'));
         rest = rest.size() > text.size() ? rest.substr(text.size() + 1) : std::string_view();
-        Require(Fetch(number, language, 1024) == text);
-        Require(text.starts_with(Fetch(number, language, 5)));
+        Require(texts.Find(number, language) == text);
+        Require(Copied(text, 1024) == text);
+        Require(text.starts_with(Copied(text, 5)));
     }
 }
 
@@ -51,10 +52,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string bytes(size, '\0');
     for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(data[i]);
 
-    const std::int32_t result = calvoro::LoadProgramTextsFromMemory(bytes);
-    Require(IsDocumentedResult(result));
-    Require(calvoro::ProgramTextMessage(result, "calvoro.dat").empty() == (result > 0));
-    if (result <= 0) return 0;
+    const calvoro::ProgramTextReading read = calvoro::ReadProgramTexts(bytes);
+    Require(IsDocumentedResult(read.result));
+    Require(calvoro::ProgramTextMessage(read.result, "calvoro.dat").empty() == (read.result > 0));
+    Require(read.texts.has_value() == (read.result > 0));
+    if (!read.texts) return 0;
 
     std::string_view rest(bytes);
     if (rest.starts_with("\xEF\xBB\xBF")) rest.remove_prefix(3);
@@ -64,9 +66,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         rest = rest.size() > line.size() ? rest.substr(line.size() + 1) : std::string_view();
         if (line.starts_with('#')) continue;
         if (line.ends_with('\r')) line.remove_suffix(1);
-        CheckLine(line);
+        CheckLine(*read.texts, line);
         ++texts;
     }
-    Require(texts == result);
+    Require(texts == read.result);
     return 0;
 }

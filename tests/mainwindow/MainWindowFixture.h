@@ -16,7 +16,7 @@
 #include "mainwindow/frmMain.h"
 #include "mainwindow/settings/SettingsFile.h"
 #include "tests/support/FakePlatform.h"
-#include "text/ProgramText.h"
+#include "text/Texts.h"
 #include "windows/Mnemonics.h"
 
 namespace calvoro {
@@ -26,15 +26,12 @@ using namespace Qt::StringLiterals;
 class MainWindowFixture {
 public:
     FakePlatform fake;
+    Texts texts;
     QTemporaryDir folder;
     std::unique_ptr<frmMain> window;
     WebAddresses addresses = Addresses();
 
-    MainWindowFixture() {
-        const std::string failure = LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat");
-        if (!failure.empty()) qFatal("%s", failure.c_str());
-        fake.place.folder = folder.path().toStdString();
-    }
+    MainWindowFixture() { fake.place.folder = folder.path().toStdString(); }
 
     static WebAddresses Addresses() {
         return {.homePage = "https://home.example/",
@@ -49,7 +46,7 @@ public:
 
     /// Starts the window with the settings that a run before has left, if any.
     void Start() {
-        window = std::make_unique<frmMain>(fake.platform, addresses);
+        window = std::make_unique<frmMain>(fake.platform, addresses, texts);
         window->Start();
         Activate();
     }

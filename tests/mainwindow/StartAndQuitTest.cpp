@@ -78,6 +78,23 @@ private Q_SLOTS:
         QVERIFY(boxes.shown.empty());
     }
 
+    void TheWindowShowsTheTextsThatItIsGiven() {
+        const QTemporaryDir programFolder;
+        std::ofstream(programFolder.path().toStdString() + "/calvoro.dat", std::ios::binary)
+            << "18\tThis\n19\tis\n20\tanother.\n310\tElsewhere\n";
+        MainWindowFixture main;
+        const std::optional<Texts> loaded =
+            LoadTextsOrTell(programFolder.path().toStdString(), main.fake.boxes);
+        QVERIFY(loaded);
+        main.texts = *loaded;
+        main.Start();
+        main.fake.boxes.answers = {true};
+        main.Click(u"cmdReset"_s);
+        QCOMPARE(main.fake.boxes.asked.back().prompt, std::string("This\r\nis\r\nanother."));
+        main.window->QuitAndSave();
+        QVERIFY(QFile::exists(main.folder.filePath(u"Elsewhere/calvoro.usr"_s)));
+    }
+
     void TheFirstRunStartsWithFactorySettings() {
         MainWindowFixture main;
         main.Start();

@@ -18,7 +18,7 @@
 #include "mainwindow/frmMain.h"
 #include "mainwindow/settings/SettingsFile.h"
 #include "tests/support/FakePlatform.h"
-#include "text/ProgramText.h"
+#include "text/Texts.h"
 #include "windows/Mnemonics.h"
 
 namespace {
@@ -59,17 +59,15 @@ void OpenList(const frmMain& window) {
 
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
-    if (!LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat").empty()) return EXIT_FAILURE;
-
     FakePlatform fakes;
     std::string folder = (std::filesystem::temp_directory_path() / "calvoro-keys-XXXXXX").string();
     if (::mkdtemp(folder.data()) == nullptr) return EXIT_FAILURE;
     fakes.place.folder = folder;
     Settings settings;
     settings.interfaceLanguage = static_cast<LanguageNumber>(argc > 1 ? std::atoi(argv[1]) : 0);
-    WriteSettingsFile(SettingsFilePath(folder, GetProgramText(310, LanguageEnglish)), settings, "");
+    WriteSettingsFile(SettingsFilePath(folder, Texts().GetProgramText(310)), settings, "");
     {
-        frmMain window(fakes.platform, {});
+        frmMain window(fakes.platform, {}, Texts());
         window.Start();
         window.findChild<QAbstractButton*>(QStringLiteral("cmdDisplayMonth"))->click();
         OpenList(window);

@@ -3,14 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 
 #include "tests/text/TemporaryFolder.h"
 
 namespace calvoro {
 namespace {
 
+// What lt has loaded, as gt gives it.
 std::string Fetch(std::int32_t number, std::int32_t language) {
     std::array<char, 1024> buffer;
     buffer.fill('?');
@@ -51,7 +54,9 @@ TEST_P(ProgramTextFileTest, ReportsWhatTheFileHolds) {
     const TemporaryFolder folder;
     const std::string path = folder.Write("texts.dat", GetParam().bytes);
     EXPECT_EQ(lt(path.c_str(), 0), GetParam().result);
-    EXPECT_EQ(LoadProgramTextsFromMemory(GetParam().bytes), GetParam().result);
+    const ProgramTextReading read = ReadProgramTexts(GetParam().bytes);
+    EXPECT_EQ(read.result, GetParam().result);
+    EXPECT_EQ(read.texts.has_value(), GetParam().result > 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -104,25 +109,56 @@ INSTANTIATE_TEST_SUITE_P(
         FileCase{"FaultBeforeTooManyLines", "x\n" + NumberedLines(501), -4}),
     [](const auto& row) { return row.param.name; });
 
-TEST(LoadProgramTexts, FetchesEveryLanguageByNumber) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("# texts\n7\tseven\tsieben\tsiete\r\n32767\tlast\tletzter\n"), 2);
+TEST(ProgramTexts, AreFoundInEveryLanguageByNumber) {
+    const ProgramTextReading read =
+        ReadProgramTexts("# texts\n7\tseven\tsieben\tsiete\r\n32767\tlast\tletzter\n");
+    ASSERT_TRUE(read.texts);
+    EXPECT_EQ(read.texts->Find(7, 0), "seven");
+    EXPECT_EQ(read.texts->Find(7, 1), "sieben");
+    EXPECT_EQ(read.texts->Find(7, 2), "siete");
+    EXPECT_EQ(read.texts->Find(32767, 1), "letzter");
+    EXPECT_EQ(read.texts->Find(32767, 2), "");
+}
+
+TEST(ProgramTexts, HaveNothingForOtherNumbersAndLanguages) {
+    const ProgramTextReading read = ReadProgramTexts("7\tseven\tsieben\tsiete\tsete\n");
+    ASSERT_TRUE(read.texts);
+    EXPECT_EQ(read.texts->Find(8, 0), "");
+    EXPECT_EQ(read.texts->Find(-7, 0), "");
+    EXPECT_EQ(read.texts->Find(7, -1), "");
+    EXPECT_EQ(read.texts->Find(7, 3), "");
+    EXPECT_EQ(read.texts->Find(7, 2'147'483'647), "");
+}
+
+TEST(ProgramTexts, StayWhateverIsReadLater) {
+    std::optional<ProgramTexts> kept = ReadProgramTexts("1\tone\n").texts;
+    ASSERT_TRUE(kept);
+    const ProgramTexts moved = std::move(*kept);
+    ASSERT_TRUE(ReadProgramTexts("1\tuno\n").texts);
+    EXPECT_EQ(moved.Find(1, 0), "one");
+    EXPECT_EQ(kept->Find(1, 0), "one") << "moving leaves no object without texts";
+}
+
+TEST(ProgramTexts, KeepBytesAsTheyAre) {
+    const ProgramTextReading read = ReadProgramTexts("1\tM\xC3\xA4rz \"x\" \\ #\t \n");
+    ASSERT_TRUE(read.texts);
+    EXPECT_EQ(read.texts->Find(1, 0), "M\xC3\xA4rz \"x\" \\ #");
+    EXPECT_EQ(read.texts->Find(1, 1), " ");
+}
+
+TEST(FetchedTexts, AreEmptyWhereNothingHasThem) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(Fetch(2'000'000'000, 0), "");
+    ASSERT_EQ(lt(folder.Write("texts.dat", "7\tseven\tsieben\tsiete\n").c_str(), 0), 1);
     EXPECT_EQ(Fetch(7, 0), "seven");
     EXPECT_EQ(Fetch(7, 1), "sieben");
     EXPECT_EQ(Fetch(7, 2), "siete");
-    EXPECT_EQ(Fetch(32767, 1), "letzter");
-    EXPECT_EQ(Fetch(32767, 2), "");
-}
-
-TEST(LoadProgramTexts, HaveNothingForOtherNumbersAndLanguages) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("7\tseven\tsieben\tsiete\tsete\n"), 1);
     EXPECT_EQ(Fetch(8, 0), "");
-    EXPECT_EQ(Fetch(-7, 0), "");
     EXPECT_EQ(Fetch(7, -1), "");
     EXPECT_EQ(Fetch(7, 3), "");
-    EXPECT_EQ(Fetch(7, 2'147'483'647), "");
 }
 
-TEST(LoadProgramTexts, ReplaceWhatWasLoadedOnlyOnSuccess) {
+TEST(FetchedTexts, ReplaceWhatWasLoadedOnlyOnSuccess) {
     const TemporaryFolder folder;
     ASSERT_EQ(lt(folder.Write("good.dat", "1\tone\n2\ttwo\n").c_str(), 0), 2);
     EXPECT_EQ(lt(folder.Write("bad.dat", "1\tuno\n1\tuno\n").c_str(), 0), -1502);
@@ -135,16 +171,10 @@ TEST(LoadProgramTexts, ReplaceWhatWasLoadedOnlyOnSuccess) {
     EXPECT_EQ(Fetch(2, 0), "");
 }
 
-TEST(LoadProgramTexts, TellAMissingFileFromOneThatCannotBeRead) {
+TEST(ProgramTextFile, TellsAMissingFileFromOneThatCannotBeRead) {
     const TemporaryFolder folder;
     EXPECT_EQ(lt((folder.Path() + "/missing.dat").c_str(), 0), -1);
     EXPECT_EQ(lt(folder.Path().c_str(), 0), -7) << "a folder opens, but cannot be read";
-}
-
-TEST(LoadProgramTexts, KeepBytesAsTheyAre) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("1\tM\xC3\xA4rz \"x\" \\ #\t \n"), 1);
-    EXPECT_EQ(Fetch(1, 0), "M\xC3\xA4rz \"x\" \\ #");
-    EXPECT_EQ(Fetch(1, 1), " ");
 }
 
 struct CapacityCase {
@@ -157,15 +187,15 @@ void PrintTo(const CapacityCase& row, std::ostream* out) {
     *out << row.name;
 }
 
-class FetchIntoSmallBufferTest : public testing::TestWithParam<CapacityCase> {};
+class CopyTextTest : public testing::TestWithParam<CapacityCase> {};
 
-TEST_P(FetchIntoSmallBufferTest, CutsAtTheEndOfACharacter) {
-    // a, a character of two bytes, one of three, one of four
-    ASSERT_EQ(LoadProgramTextsFromMemory("1\ta\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\n"), 1);
+TEST_P(CopyTextTest, CutsAtTheEndOfACharacter) {
     std::array<char, 16> buffer;
     buffer.fill('?');
     const CapacityCase& row = GetParam();
-    const std::int32_t length = gt(1, 0, buffer.data(), row.capacity, 1);
+    // a, a character of two bytes, one of three, one of four
+    const std::int32_t length =
+        CopyText("a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", buffer.data(), row.capacity);
     ASSERT_EQ(length, static_cast<std::int32_t>(row.expected.size()));
     EXPECT_EQ(std::string(buffer.data(), row.expected.size()), row.expected);
     EXPECT_EQ(buffer[row.expected.size()], '\0');
@@ -173,7 +203,7 @@ TEST_P(FetchIntoSmallBufferTest, CutsAtTheEndOfACharacter) {
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Capacities, FetchIntoSmallBufferTest,
+    Capacities, CopyTextTest,
     testing::Values(CapacityCase{"Whole", 16, "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"},
                     CapacityCase{"JustEnough", 11, "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"},
                     CapacityCase{"WithoutTheLast", 10, "a\xC3\xA4\xE2\x82\xAC"},
@@ -183,11 +213,11 @@ INSTANTIATE_TEST_SUITE_P(
                     CapacityCase{"RoomForTheNulAlone", 1, ""}),
     [](const auto& row) { return row.param.name; });
 
-TEST(LoadProgramTexts, WriteNothingIntoABufferWithoutRoom) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("1\tone\n"), 1);
+TEST(CopyText, WritesNothingIntoABufferWithoutRoom) {
     char buffer[1] = {'?'};
+    EXPECT_EQ(CopyText("one", buffer, 0), 0);
+    EXPECT_EQ(CopyText("one", buffer, -1), 0);
     EXPECT_EQ(gt(1, 0, buffer, 0, 1), 0);
-    EXPECT_EQ(gt(1, 0, buffer, -1, 1), 0);
     EXPECT_EQ(buffer[0], '?');
 }
 

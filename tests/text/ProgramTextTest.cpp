@@ -65,7 +65,7 @@ class FaultyProgramTextTest : public testing::TestWithParam<FaultyFileCase> {};
 TEST_P(FaultyProgramTextTest, GivesItsMessage) {
     const TemporaryFolder folder;
     folder.Write("calvoro.dat", GetParam().bytes);
-    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat"), GetParam().message);
+    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat").message, GetParam().message);
 }
 
 std::string Comments(int count) {
@@ -89,61 +89,74 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(LoadProgramText, NamesTheFileThatIsMissing) {
     const TemporaryFolder folder;
-    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat"),
+    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat").message,
               "Cannot open file containing program text.\r\n" + folder.Path() + "/calvoro.dat");
 }
 
 TEST(LoadProgramText, PutsNoSecondSeparatorAfterAFolderThatEndsInOne) {
     const TemporaryFolder folder;
-    EXPECT_EQ(LoadProgramText(folder.Path() + "/", "calvoro.dat"),
+    EXPECT_EQ(LoadProgramText(folder.Path() + "/", "calvoro.dat").message,
               "Cannot open file containing program text.\r\n" + folder.Path() + "/calvoro.dat");
-    EXPECT_EQ(LoadProgramText("Q:\\", "calvoro.dat"),
+    EXPECT_EQ(LoadProgramText("Q:\\", "calvoro.dat").message,
               "Cannot open file containing program text.\r\nQ:\\calvoro.dat");
-    EXPECT_EQ(LoadProgramText("/", "no such calvoro.dat"),
+    EXPECT_EQ(LoadProgramText("/", "no such calvoro.dat").message,
               "Cannot open file containing program text.\r\n/no such calvoro.dat");
     folder.Write("calvoro.dat", "1\tone\n");
-    EXPECT_EQ(LoadProgramText(folder.Path() + "/", "calvoro.dat"), "");
-    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat"), "");
+    EXPECT_EQ(LoadProgramText(folder.Path() + "/", "calvoro.dat").message, "");
+    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat").message, "");
 }
 
 TEST(LoadProgramText, CannotReadAFolder) {
     const TemporaryFolder folder;
     std::filesystem::create_directory(folder.Path() + "/calvoro.dat");
-    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat"), "Error reading file.");
+    EXPECT_EQ(LoadProgramText(folder.Path(), "calvoro.dat").message, "Error reading file.");
+}
+
+TEST(LoadProgramText, GivesTextsOrAMessage) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(LoadProgramText(folder.Path(), "calvoro.dat").texts);
+    folder.Write("calvoro.dat", "20\tReady?\n");
+    const LoadedTexts loaded = LoadProgramText(folder.Path(), "calvoro.dat");
+    ASSERT_TRUE(loaded.texts);
+    EXPECT_EQ(loaded.texts->GetProgramText(20), "Ready?");
+}
+
+std::string TextIn(LanguageNumber language, std::string_view bytes, std::int16_t number) {
+    const ProgramTextReading read = ReadProgramTexts(bytes);
+    if (!read.texts) return "not read";
+    Texts texts(*read.texts);
+    texts.TextLanguage = language;
+    return texts.GetProgramText(number);
 }
 
 TEST(GetProgramText, ReadsATextInALanguage) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("18\tThis\tDies\n"), 1);
-    EXPECT_EQ(GetProgramText(18, LanguageEnglish), "This");
-    EXPECT_EQ(GetProgramText(18, LanguageGerman), "Dies");
+    EXPECT_EQ(TextIn(LanguageEnglish, "18\tThis\tDies\n", 18), "This");
+    EXPECT_EQ(TextIn(LanguageGerman, "18\tThis\tDies\n", 18), "Dies");
 }
 
 TEST(GetProgramText, IsEmptyWhereThereIsNone) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("18\tThis\tDies\n19\tThis alone\n"), 2);
-    EXPECT_EQ(GetProgramText(20, LanguageEnglish), "") << "no such number";
-    EXPECT_EQ(GetProgramText(-18, LanguageEnglish), "");
-    EXPECT_EQ(GetProgramText(18, LanguageSpanish), "") << "no text in this language";
-    EXPECT_EQ(GetProgramText(19, LanguageGerman), "");
-    EXPECT_EQ(GetProgramText(18, 3), "") << "no such language";
-    EXPECT_EQ(GetProgramText(18, -1), "");
+    constexpr std::string_view kBytes = "18\tThis\tDies\n19\tThis alone\n";
+    EXPECT_EQ(TextIn(LanguageEnglish, kBytes, 20), "") << "no such number";
+    EXPECT_EQ(TextIn(LanguageEnglish, kBytes, -18), "");
+    EXPECT_EQ(TextIn(LanguageSpanish, kBytes, 18), "") << "no text in this language";
+    EXPECT_EQ(TextIn(LanguageGerman, kBytes, 19), "");
+    EXPECT_EQ(TextIn(3, kBytes, 18), "") << "no such language";
+    EXPECT_EQ(TextIn(-1, kBytes, 18), "");
 }
 
 TEST(GetProgramText, TakesATildeAloneAsAnEmptyText) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("1\t~\t~~\t ~\n"), 1);
-    EXPECT_EQ(GetProgramText(1, LanguageEnglish), "");
-    EXPECT_EQ(GetProgramText(1, LanguageGerman), "~~");
-    EXPECT_EQ(GetProgramText(1, LanguageSpanish), " ~");
+    EXPECT_EQ(TextIn(LanguageEnglish, "1\t~\t~~\t ~\n", 1), "");
+    EXPECT_EQ(TextIn(LanguageGerman, "1\t~\t~~\t ~\n", 1), "~~");
+    EXPECT_EQ(TextIn(LanguageSpanish, "1\t~\t~~\t ~\n", 1), " ~");
 }
 
-TEST(GetProgramText, FillsItsBufferToTheLastCharacterButOne) {
+TEST(GetProgramText, GivesTheLongestTextWhole) {
     const std::string longest(1023, 'x');
-    ASSERT_EQ(LoadProgramTextsFromMemory("1\t" + longest + "\n"), 1);
-    EXPECT_EQ(GetProgramText(1, LanguageEnglish), longest);
+    EXPECT_EQ(TextIn(LanguageEnglish, "1\t" + longest + "\n", 1), longest);
 }
 
 TEST(GetProgramText, KeepsBlanksAtTheEnd) {
-    ASSERT_EQ(LoadProgramTextsFromMemory("1\ttwo blanks  \n"), 1);
-    EXPECT_EQ(GetProgramText(1, LanguageEnglish), "two blanks  ");
+    EXPECT_EQ(TextIn(LanguageEnglish, "1\ttwo blanks  \n", 1), "two blanks  ");
 }
 
 // The file that is shipped.
@@ -158,16 +171,15 @@ void PrintTo(const ShippedCase& row, std::ostream* out) {
     *out << row.number;
 }
 
-class ShippedProgramTextTest : public testing::TestWithParam<ShippedCase> {
-protected:
-    void SetUp() override {
-        ASSERT_EQ(LoadProgramText(std::string(CALVORO_SOURCE_DIR) + "/text", "calvoro.dat"), "");
-    }
-};
+class ShippedProgramTextTest : public testing::TestWithParam<ShippedCase> {};
 
 TEST_P(ShippedProgramTextTest, IsThere) {
-    EXPECT_EQ(GetProgramText(GetParam().number, LanguageEnglish), GetParam().english);
-    EXPECT_EQ(GetProgramText(GetParam().number, LanguageGerman), GetParam().german);
+    const LoadedTexts loaded = LoadProgramText(std::string(CALVORO_SOURCE_DIR) + "/text", "calvoro.dat");
+    ASSERT_TRUE(loaded.texts) << loaded.message;
+    Texts texts = *loaded.texts;
+    EXPECT_EQ(texts.GetProgramText(GetParam().number), GetParam().english);
+    texts.TextLanguage = LanguageGerman;
+    EXPECT_EQ(texts.GetProgramText(GetParam().number), GetParam().german);
 }
 
 const ShippedCase kShipped[] = {
@@ -204,14 +216,13 @@ INSTANTIATE_TEST_SUITE_P(Numbers, ShippedProgramTextTest, testing::ValuesIn(kShi
                          [](const auto& row) { return "Text" + std::to_string(row.param.number); });
 
 TEST(ShippedProgramTexts, HoldNothingElse) {
-    EXPECT_EQ(LoadProgramTextsFromMemory(BuiltInProgramTexts()),
-              static_cast<std::int32_t>(std::size(kShipped)));
+    EXPECT_EQ(ReadProgramTexts(BuiltInProgramTexts()).result, static_cast<std::int32_t>(std::size(kShipped)));
 }
 
 TEST(ShippedProgramTexts, AreTheEnglishOnesWhereSpanishIsChosen) {
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
+    const Texts texts(LanguageEnglish, LanguageSpanish);
     for (const ShippedCase& row : kShipped) {
-        EXPECT_EQ(GetProgramText(row.number, LanguageSpanish), row.english) << row.number;
+        EXPECT_EQ(texts.GetProgramText(row.number), row.english) << row.number;
     }
 }
 
@@ -223,15 +234,21 @@ TEST(ShippedProgramTexts, AreBuiltInByteForByte) {
     EXPECT_EQ(BuiltInProgramTexts(), bytes.str());
 }
 
+TEST(Texts, HaveTheBuiltInTextsUnlessTheyAreGivenOthers) {
+    const Texts texts;
+    for (const ShippedCase& row : kShipped) {
+        EXPECT_EQ(texts.GetProgramText(row.number), row.english) << row.number;
+    }
+}
+
 TEST(Texts, DeliberateNumberedTextsStayInTheirOwnLanguage) {
     // The numbered texts follow the interface's language only when the month window is activated.
-    ASSERT_GT(LoadProgramTextsFromMemory(BuiltInProgramTexts()), 0);
     Texts texts;
     texts.InterfaceLanguage = LanguageGerman;
-    EXPECT_EQ(texts.Numbered(20), "Do you want to continue?");
+    EXPECT_EQ(texts.GetProgramText(20), "Do you want to continue?");
     EXPECT_EQ(texts.Shown(TextId::Help), "Hilfe");
     texts.TextLanguage = LanguageGerman;
-    EXPECT_EQ(texts.Numbered(20), "Wollen Sie fortfahren?");
+    EXPECT_EQ(texts.GetProgramText(20), "Wollen Sie fortfahren?");
 }
 
 }  // namespace

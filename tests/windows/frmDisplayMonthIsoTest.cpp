@@ -54,10 +54,6 @@ class frmDisplayMonthIsoTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        QCOMPARE(LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat"), std::string());
-    }
-
     void ShowsAndHidesTheColumn() {
         September month;
         const int height = month.window.height();

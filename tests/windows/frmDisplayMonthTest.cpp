@@ -18,10 +18,6 @@ class frmDisplayMonthTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        QCOMPARE(LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat"), std::string());
-    }
-
     void StartsShortWithTheFactoryOptions() {
         MonthWindow month;
         QCOMPARE(month.Months().count(), 12);
