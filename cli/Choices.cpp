@@ -20,7 +20,7 @@ bool HasFormOfToday(std::string_view text) {
 
 std::string TakeDigitGrouping(std::string_view text, std::string& grouping) {
     char separator = kNoSeparator;
-    const std::string reason = TakeChoice(kThousandsSeparatorChoices, text, NameCase::Any, separator);
+    std::string reason = TakeChoice(kThousandsSeparatorChoices, text, NameCase::Any, separator);
     if (reason.empty()) grouping = separator == kNoSeparator ? std::string() : std::string(1, separator);
     return reason;
 }

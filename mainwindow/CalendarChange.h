@@ -25,8 +25,8 @@ public:
 private:
     // What differs between the two date boxes.
     struct Side {
-        InputBox box;
-        NumberedText message;                          // the text for a date that does not read
+        InputBox box{};
+        NumberedText message{};                        // the text for a date that does not read
         CalendarNumber calendar = CalendarNumber::CE;  // in which the box's text stands
     };
 
