@@ -3,7 +3,9 @@
 #include <QByteArray>
 #include <QStandardPaths>
 
-#if !defined(Q_OS_WIN) && !defined(Q_OS_MACOS)
+#if defined(Q_OS_WIN)
+#include "platform/windows/Shell.h"
+#elif !defined(Q_OS_MACOS)
 #include <pwd.h>
 #include <unistd.h>
 #endif
@@ -17,7 +19,7 @@ namespace {
 
 std::string WantedFolder() {
 #if defined(Q_OS_WIN)
-    return qEnvironmentVariable("APPDATA").toStdString();
+    return SettingsBase();
 #elif defined(Q_OS_MACOS)
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
 #else

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "platform/FixedDrive.h"
 #include "platform/windows/WideText.h"
 
 namespace calvoro {
@@ -22,6 +23,16 @@ std::string RoamingApplicationData() {
     ::CoTaskMemFree(folder);
     std::replace(path.begin(), path.end(), '\\', '/');
     return path;
+}
+
+bool IsFixedDrive(char letter) {
+    const wchar_t root[] = {static_cast<wchar_t>(letter), L':', L'\\', L'\0'};
+    return ::GetDriveTypeW(root) == DRIVE_FIXED;
+}
+
+std::string SettingsBase() {
+    const std::string folder = RoamingApplicationData();
+    return folder.empty() ? FirstFixedDrive(IsFixedDrive) : folder;
 }
 
 int ShellOpen(std::string_view address, std::string_view parameters, std::string_view directory,

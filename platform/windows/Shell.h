@@ -11,6 +11,13 @@ namespace calvoro {
 /// returns  an absolute UTF-8 path; empty when the shell names none
 std::string RoamingApplicationData();
 
+/// Whether there is a drive of this letter that is built in.
+bool IsFixedDrive(char letter);
+
+/// Where the settings folder goes: the folder of roaming application data, else the first fixed drive.
+/// returns  without a closing separator; empty when there is neither
+std::string SettingsBase();
+
 /// The shell's "open" action.
 /// address      what is opened; UTF-8, as the other texts
 /// parameters   for the program that opens it

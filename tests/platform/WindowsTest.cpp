@@ -96,6 +96,12 @@ TEST(Shell, NamesTheFolderOfRoamingApplicationData) {
     EXPECT_EQ(folder.find('\\'), std::string::npos) << folder;
 }
 
+TEST(Shell, KnowsWhichDrivesAreFixed) {
+    EXPECT_TRUE(IsFixedDrive('C'));
+    EXPECT_FALSE(IsFixedDrive('?'));
+    EXPECT_EQ(SettingsBase(), RoamingApplicationData());
+}
+
 TEST(Shell, AnswersWithItsOwnNumberWhenNothingOpensAnAddress) {
     const int answer = ShellOpen("calvoro-nosuch-scheme:page", "0", "0", 1);
     EXPECT_TRUE(answer == 2 || answer == 31) << answer;
