@@ -27,7 +27,7 @@ std::int32_t RareDateToJdn(DateRecord& record);
 /// throws  ArithmeticOverflow when the day number does not fit
 inline std::int32_t euro_date_to_jdn(DateRecord& record) {
     using namespace formula;
-    if (record.calendar == CalendarCode::G) {
+    if (record.calendar == CalendarCode::G) [[likely]] {
         return record.jdn = NarrowToInt32(CommonEraDayNumber(record.year, record.month, record.day));
     }
     if (record.calendar == CalendarCode::J) {
