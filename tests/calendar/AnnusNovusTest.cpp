@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 
 namespace calvoro {
 

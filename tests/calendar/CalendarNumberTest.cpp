@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 
 namespace calvoro {
 

@@ -6,7 +6,7 @@
 #include <ostream>
 #include <string>
 
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 #include "tests/support/Limits32.h"
 #include "tests/support/NextDay.h"
 #include "tests/support/RowName.h"

@@ -7,7 +7,7 @@
 #include "calendar/LeapWeekDate.h"
 #include "calendar/OrdinalDate.h"
 #include "calendar/Weekday.h"
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 
 namespace calvoro::testing {
 

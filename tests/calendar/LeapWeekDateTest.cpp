@@ -9,7 +9,7 @@
 
 #include "calendar/CheckedInt.h"
 #include "tests/calendar/LeapWeekWalk.h"
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 #include "tests/support/Limits32.h"
 #include "tests/support/RowName.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "calendar/CheckedInt.h"
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 #include "tests/support/Limits32.h"
 #include "tests/support/NextDay.h"
 #include "tests/support/RowName.h"
@@ -20,11 +20,6 @@ namespace {
 constexpr CalendarCode G = CalendarCode::G;
 constexpr CalendarCode J = CalendarCode::J;
 constexpr CalendarCode LPM = CalendarCode::Unset;  // leap-week dates carry no code
-
-constexpr DateRecord On(CalendarCode calendar, std::int32_t year, std::int32_t month, std::int32_t day,
-                        std::int32_t jdn = 0) {
-    return {.year = year, .month = month, .day = day, .calendar = calendar, .jdn = jdn};
-}
 
 struct AddRow {
     const char* name;

@@ -6,7 +6,7 @@
 #include "calendar/IsoWeekDate.h"
 #include "calendar/OrdinalDate.h"
 #include "calendar/YearsAndMonths.h"
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 
 namespace calvoro::testing {
 

@@ -7,17 +7,13 @@
 
 #include "calendar/CheckedInt.h"
 #include "calendar/EuroDate.h"
-#include "tests/calendar/Printers.h"
+#include "tests/calendar/Records.h"
 #include "tests/support/Limits32.h"
 #include "tests/support/RowName.h"
 
 namespace calvoro {
 
 namespace {
-
-constexpr DateRecord On(CalendarCode calendar, std::int32_t year, std::int32_t month, std::int32_t day) {
-    return {.year = year, .month = month, .day = day, .calendar = calendar};
-}
 
 struct DayOfYearRow {
     const char* name;

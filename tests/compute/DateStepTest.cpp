@@ -7,18 +7,11 @@
 #include <string>
 
 #include "compute/ComputeMessages.h"
+#include "tests/support/Calendars.h"
 #include "tests/support/FakeComputeWindow.h"
 
 namespace calvoro {
 namespace {
-
-constexpr auto kCE = CalendarNumber::CE;
-constexpr auto kJC = CalendarNumber::JC;
-constexpr auto kISO = CalendarNumber::ISO;
-constexpr auto kORD = CalendarNumber::ORD;
-constexpr auto kJDN = CalendarNumber::JDN;
-constexpr auto kLPM = CalendarNumber::LPM;
-constexpr auto kLPW = CalendarNumber::LPW;
 
 struct StepCase {
     std::string name;

@@ -7,22 +7,11 @@
 namespace calvoro {
 namespace {
 
-constexpr auto kCE = CalendarNumber::CE;
-constexpr auto kJC = CalendarNumber::JC;
-constexpr auto kISO = CalendarNumber::ISO;
-constexpr auto kORD = CalendarNumber::ORD;
-constexpr auto kJDN = CalendarNumber::JDN;
-constexpr auto kLPM = CalendarNumber::LPM;
-constexpr auto kLPW = CalendarNumber::LPW;
-
 void IncludeFirstDate(ComputeOptions& options) {
     options.includeFirstDate = true;
 }
 void WeekdaysOnly(ComputeOptions& options) {
     options.countWeekendDays = false;
-}
-void German(ComputeOptions& options) {
-    options.texts.InterfaceLanguage = LanguageGerman;
 }
 void Spanish(ComputeOptions& options) {
     options.texts.InterfaceLanguage = LanguageSpanish;
@@ -64,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
         OutputCase{"DeliberateMoreNegativeDaysStay", "2022-01-31", "", "2023-03-01", kCE, kCE,
                    "2022-01-31 CE to 2023-03-01 CE = 394 days (1 year, 1 month, -2 days)"},
         OutputCase{"German", "2019-12-15", "", "2021-03-20", kCE, kCE,
-                   "2019-12-15 CE bis 2021-03-20 CE = 461 Tage (1 Jahr, 3 Monate, 5 Tage)", German},
+                   "2019-12-15 CE bis 2021-03-20 CE = 461 Tage (1 Jahr, 3 Monate, 5 Tage)", InGerman},
         OutputCase{"EnglishWhereSpanishHasNone", "2019-12-15", "", "2021-03-20", kCE, kCE,
                    "2019-12-15 CE to 2021-03-20 CE = 461 days (1 year, 3 months, 5 days)", Spanish}),
     RowName<OutputCase>);
@@ -84,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
                     OutputCase{"DeliberateFiftyThreeWeeksForAYearOfFiftyTwo", "2020-W10-5", "", "2021-W10-3",
                                kISO, kISO, "2020-W10-5 ISO to 2021-W10-3 ISO = 369 days (53 weeks, 5 days)"},
                     OutputCase{"German", "2021-W01-1", "", "2021-W03-2", kISO, kISO,
-                               "2021-W01-1 ISO bis 2021-W03-2 ISO = 15 Tage (2 Wochen, 1 Tag)", German}),
+                               "2021-W01-1 ISO bis 2021-W03-2 ISO = 15 Tage (2 Wochen, 1 Tag)", InGerman}),
     RowName<OutputCase>);
 
 INSTANTIATE_TEST_SUITE_P(OrdinalDates, BreakdownTest,

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "compute/ComputeClick.h"
+#include "tests/support/Calendars.h"
 #include "tests/support/FakeComputeWindow.h"
 #include "tests/support/RowName.h"
 
@@ -29,6 +30,10 @@ inline void PrintTo(const OutputCase& row, std::ostream* out) {
 }
 
 class OutputTest : public testing::TestWithParam<OutputCase> {};
+
+inline void InGerman(ComputeOptions& options) {
+    options.texts.InterfaceLanguage = LanguageGerman;
+}
 
 /// Clicks and compares the output; no message may be shown.
 inline void ExpectOutput(const OutputCase& row) {

@@ -8,19 +8,8 @@
 namespace calvoro {
 namespace {
 
-constexpr auto kCE = CalendarNumber::CE;
-constexpr auto kJC = CalendarNumber::JC;
-constexpr auto kISO = CalendarNumber::ISO;
-constexpr auto kORD = CalendarNumber::ORD;
-constexpr auto kJDN = CalendarNumber::JDN;
-constexpr auto kLPM = CalendarNumber::LPM;
-constexpr auto kLPW = CalendarNumber::LPW;
-
 void Verbose(ComputeOptions& options) {
     options.verbose = true;
-}
-void German(ComputeOptions& options) {
-    options.texts.InterfaceLanguage = LanguageGerman;
 }
 
 class ResultLineTest : public OutputTest {};
@@ -87,15 +76,15 @@ INSTANTIATE_TEST_SUITE_P(
                    "2021-03-04 CE minus 0 days = 2021-03-04 CE"},
         OutputCase{"OrdinalEcho", "2021-063", "1", "", kORD, kCE, "2021-063 plus 1 day = 2021-03-05 CE"},
         OutputCase{"German", "2021-03-04", "10", "", kCE, kCE, "2021-03-04 CE plus 10 Tage = 2021-03-14 CE",
-                   German},
+                   InGerman},
         OutputCase{"GermanOne", "", "1", "2021-03-04", kCE, kCE, "2021-03-04 CE minus 1 Tag = 2021-03-03 CE",
-                   German},
+                   InGerman},
         OutputCase{"Between", "2021-03-04", "", "2021-03-05", kCE, kCE,
                    "2021-03-04 CE to 2021-03-05 CE = 1 day"},
         OutputCase{"DeliberateMinusOneIsSingular", "2021-03-05", "", "2021-03-04", kCE, kCE,
                    "2021-03-05 CE to 2021-03-04 CE = -1 day"},
         OutputCase{"DeliberateMinusOneIsSingularInGerman", "2021-03-05", "", "2021-03-04", kCE, kCE,
-                   "2021-03-05 CE bis 2021-03-04 CE = -1 Tag", German},
+                   "2021-03-05 CE bis 2021-03-04 CE = -1 Tag", InGerman},
         OutputCase{"BetweenUnequalNotations", "2021-063", "", "2459270", kORD, kJDN,
                    "2021-063 to 2,459,270 JDN = -8 days"},
         OutputCase{"SmallestOf32Bits", "47483648", "", "-2100000000", kJDN, kJDN,
@@ -127,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "2021-03-18 CE minus 10 Tage = 2021-03-05 CE, Freitag, einschliesslich 1. Datum, "
                    "die Wochenendtage nicht gezaehlt",
                    [](ComputeOptions& options) {
-                       German(options);
+                       InGerman(options);
                        options.verbose = options.includeFirstDate = true;
                        options.countWeekendDays = false;
                    }},
@@ -193,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "2021-063 ORD\r\n2021-03-04 LPM\r\n2021-10-4 LPW\r\n2,459,278 JDN",
                    [](ComputeOptions& options) {
                        Verbose(options);
-                       German(options);
+                       InGerman(options);
                    }}),
     RowName<OutputCase>);
 

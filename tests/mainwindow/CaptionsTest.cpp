@@ -1,5 +1,4 @@
-// What the main window looks like and sounds like: captions, keys, names, tab order, and room for every
-// word.
+// What the main window looks like and sounds like: captions, names, tab order, and room for every word.
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -21,12 +20,6 @@ private:
         QTest::addColumn<QString>("language");
         QTest::newRow("English") << "optLanguageIsEnglish";
         QTest::newRow("German") << "optLanguageIsGerman";
-    }
-
-    // The letter after the mark, in lower case; empty when there is none.
-    static QString KeyOf(const QString& caption) {
-        const qsizetype mark = caption.indexOf(u'&');
-        return mark < 0 ? QString() : caption.mid(mark + 1, 1).toLower();
     }
 
     static QStringList WalkWithTab(MainWindowFixture& main) {
@@ -130,85 +123,6 @@ private Q_SLOTS:
         }
         main.Click(u"optLanguageIsGerman"_s);
         QCOMPARE(main.Get<QLabel>(u"lblTodaysDate"_s).toolTip(), u"Anklicken um Kalender zu veraendern"_s);
-    }
-
-    void NoTwoControlsShareAKey_data() { BothLanguages(); }
-    void NoTwoControlsShareAKey() {
-        QFETCH(QString, language);
-        MainWindowFixture main;
-        main.Start();
-        main.Click(language);
-        QMap<QString, QString> owners;
-        QStringList without;
-        int controls = 0;
-        for (const QWidget* control : main.window->findChildren<QWidget*>()) {
-            const auto* label = qobject_cast<const QLabel*>(control);
-            const bool hasKey = qobject_cast<const QPushButton*>(control) != nullptr ||
-                                qobject_cast<const QCheckBox*>(control) != nullptr ||
-                                (label != nullptr && label->buddy() != nullptr);
-            if (!hasKey) continue;
-            ++controls;
-            const QString key = KeyOf(control->property("text").toString());
-            if (key.isEmpty()) {
-                without.push_back(control->objectName());
-                continue;
-            }
-            QVERIFY2(!owners.contains(key),
-                     qPrintable(control->objectName() + u" and "_s + owners.value(key) + u" share "_s + key));
-            owners.insert(key, control->objectName());
-        }
-        QCOMPARE(controls, 24);
-        // The letters of "Clear" are not enough for four buttons.
-        for (const QString& name : without) QVERIFY2(name.startsWith(u"cmdClear"_s), qPrintable(name));
-        QVERIFY2(without.size() <= 3, qPrintable(without.join(u' ')));
-    }
-
-    void TheEverydayControlsHaveTheirNaturalKeys_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("english");
-        QTest::addColumn<QString>("german");
-        const auto row = [](const char* name, const char* english, const char* german) {
-            QTest::newRow(name) << name << english << german;
-        };
-        row("cmdCompute", "c", "b");
-        row("cmdHelp", "h", "h");
-        row("cmdQuit", "q", "n");
-        row("cmdDisplayMonth", "m", "m");
-        row("cmdReset", "r", "r");
-        row("lblFirstDate", "f", "e");
-        row("lblDateDifference", "d", "d");
-        row("lblSecondDate", "s", "z");
-    }
-    void TheEverydayControlsHaveTheirNaturalKeys() {
-        QFETCH(QString, name);
-        QFETCH(QString, english);
-        QFETCH(QString, german);
-        MainWindowFixture main;
-        main.Start();
-        const auto key = [&] { return KeyOf(main.Get<QWidget>(name).property("text").toString()); };
-        QCOMPARE(key(), english);
-        main.Click(u"optLanguageIsGerman"_s);
-        QCOMPARE(key(), german);
-    }
-
-    void TheKeysWork() {
-        MainWindowFixture main;
-        main.Start();
-        const auto pressKeyOf = [&main](const QString& name) {
-            const QString key = KeyOf(main.Get<QWidget>(name).property("text").toString());
-            QTest::keyClick(main.window.get(), key.at(0).toLatin1(), Qt::AltModifier);
-        };
-        // A key presses its button for a moment, so that it is seen to be pressed.
-        pressKeyOf(u"cmdToday1"_s);
-        QTRY_COMPARE(main.Boxes(), QStringList({"", "", "2026-11-20"}));
-        pressKeyOf(u"lblDateDifference"_s);
-        QTRY_COMPARE(main.Focused(), u"txbDateDiff"_s);
-        pressKeyOf(u"cmdMoveSecondDateToFirst"_s);
-        QTRY_COMPARE(main.Boxes(), QStringList({"2026-11-20", "", ""}));
-        pressKeyOf(u"chkVerbose"_s);
-        QTRY_VERIFY(!main.Button(u"chkVerbose"_s).isChecked());
-        pressKeyOf(u"cmdCompute"_s);
-        QTRY_VERIFY(main.Output().startsWith(u"2026-11-20 CE"_s));
     }
 
     void TabFollowsTheOrderOfReading() {

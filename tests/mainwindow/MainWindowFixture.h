@@ -120,6 +120,12 @@ public:
         RunLoopThatEndsAtOnce();
     }
 
+    /// Quits; whether the run has left behind what one without anything saved before leaves.
+    bool LeavesFactorySettings() {
+        Quit();
+        return Saved() == Settings();
+    }
+
     // After an exit no modal wait would begin until an event loop has run to its end.
     static void RunLoopThatEndsAtOnce() {
         QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(0); });

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/mainwindow/settings/AllButFactory.h"
+
 namespace calvoro {
 namespace {
 
@@ -34,29 +36,6 @@ std::string WithLine(std::size_t number, const std::string& line) {
     return Joined(lines);
 }
 
-Settings FullSettings() {
-    Settings settings;
-    settings.interfaceLanguage = LanguageGerman;
-    settings.dateFormat = DateFormat::DMY;
-    settings.dateSeparator = '.';
-    settings.thousandsSeparator = kNoSeparator;
-    settings.todayCalendar = CalendarNumber::LPM;
-    settings.firstCalendar = CalendarNumber::ORD;
-    settings.secondCalendar = CalendarNumber::ISO;
-    settings.includeFirstDate = true;
-    settings.includeWeekends = false;
-    settings.verbose = false;
-    settings.hyphen = false;
-    settings.monthWeekStart = WeekStart::Monday;
-    settings.monthCalendar = CalendarNumber::JC;
-    settings.firstDate = "2024075";
-    settings.dateDiff = "-10";
-    settings.secondDate = "2024W053";
-    settings.output = "one\r\ntwo\r\n";
-    settings.differenceUnit = DifferenceUnit::Months;
-    return settings;
-}
-
 // ---- writing
 
 TEST(SettingsText, WritesTheFactoryValues) {
@@ -64,9 +43,10 @@ TEST(SettingsText, WritesTheFactoryValues) {
 }
 
 TEST(SettingsText, WritesEveryField) {
-    EXPECT_EQ(SettingsText(FullSettings()),
-              "1\r\n1,46,0\r\n8,4,6\r\n1\r\n0\r\n0\r\n0\r\n1\r\n\"Mon\"\r\n\"JC\"\r\n"
-              "\"2024075\"\r\n\"-10\"\r\n\"2024W053\"\r\n\"one\r\ntwo\r\n\"\r\n1\r\n");
+    EXPECT_EQ(
+        SettingsText(AllButFactory()),
+        "1\r\n1,46,0\r\n8,4,6\r\n1\r\n0\r\n0\r\n0\r\n1\r\n\"Mon\"\r\n\"JC\"\r\n"
+        "\"2024075\"\r\n\"1234\"\r\n\"2024W125\"\r\n\"one \"quoted\" line\r\n, another\r\n\r\n\"\r\n1\r\n");
 }
 
 TEST(SettingsText, DoesNotEscapeQuotes) {
@@ -341,7 +321,7 @@ TEST(ParseSettingsText, RefusesAFileWithoutOneOfItsLines) {
 }
 
 TEST(ParseSettingsText, RefusesAFileCutAnywhere) {
-    Settings settings = FullSettings();
+    Settings settings = AllButFactory();
     settings.output = "2021-03-04 CE plus 10 days = 2021-03-01 JC, Sunday\r\n";
     const std::string whole = SettingsText(settings);
     ASSERT_EQ(ParseSettingsText(whole), settings);

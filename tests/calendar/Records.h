@@ -1,6 +1,6 @@
 #pragma once
 
-// How a failed comparison shows the records.
+// Records of dates in rows of tests, and how a failed comparison shows them.
 
 #include <ostream>
 
@@ -9,6 +9,11 @@
 #include "calendar/LeapWeekDate.h"
 
 namespace calvoro {
+
+constexpr DateRecord On(CalendarCode calendar, std::int32_t year, std::int32_t month, std::int32_t day,
+                        std::int32_t jdn = 0) {
+    return {.year = year, .month = month, .day = day, .calendar = calendar, .jdn = jdn};
+}
 
 inline void PrintTo(const DateRecord& record, std::ostream* out) {
     *out << record.year << '-' << record.month << '-' << record.day << " code "
