@@ -7,12 +7,12 @@
 
 #include "cli/Diagnostics.h"
 #include "cli/ExitStatus.h"
+#include "cli/FinishOutput.h"
 #include "cli/HeadlessWindow.h"
 #include "cli/JsonLines.h"
 #include "cli/LineEnds.h"
 #include "cli/LineReader.h"
 #include "cli/OutputStream.h"
-#include "cli/Usage.h"
 #include "compute/ComputeClick.h"
 #include "platform/Streams.h"
 #include "platform/SystemClock.h"

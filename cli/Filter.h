@@ -11,10 +11,10 @@
 
 #include "cli/Diagnostics.h"
 #include "cli/ExitStatus.h"
+#include "cli/FinishOutput.h"
 #include "cli/InputFile.h"
 #include "cli/LineReader.h"
 #include "cli/OutputStream.h"
-#include "cli/Usage.h"
 #include "platform/Streams.h"
 
 namespace calvoro {

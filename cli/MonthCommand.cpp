@@ -5,12 +5,12 @@
 #include <string_view>
 #include <system_error>
 
-#include "calendar/CheckedInt.h"
+#include "calendar/StaysIn32Bits.h"
 #include "cli/Diagnostics.h"
 #include "cli/ExitStatus.h"
+#include "cli/FinishOutput.h"
 #include "cli/LineEnds.h"
 #include "cli/OutputStream.h"
-#include "cli/Usage.h"
 #include "datetext/MonthText.h"
 #include "datetext/PrintableText.h"
 #include "platform/Streams.h"
@@ -79,15 +79,15 @@ int RunMonth(const MonthArguments& arguments) {
         const LocalDate today = SystemClock().Today();
         shown = {today.year, today.month};
     }
+    std::string page;
     if (status == MonthStatus::Valid) {
-        try {
+        if (StaysIn32Bits([&] { page = MonthPage(shown, arguments); })) {
             OutputStream output(kStandardOutput);
-            output.Append(WithLineFeeds(MonthPage(shown, arguments)));
+            output.Append(WithLineFeeds(page));
             output.Append('\n');
             return FinishOutput(output, kExitAllGood, diagnostics);
-        } catch (const ArithmeticOverflow&) {
-            status = MonthStatus::OutOfRange;
         }
+        status = MonthStatus::OutOfRange;
     }
     const std::string_view reason = status == MonthStatus::NotValid ? "not a month: " : "out of range: ";
     diagnostics.Print("argument:1: " + std::string(reason) + QuotedText(arguments.yearMonth.value_or("")));

@@ -21,11 +21,6 @@ void ShowProgramTexts(std::initializer_list<NumberedText> numbers, ComputeWindow
     window.ShowMessage(prompt, texts.Shown(TextId::Compute));
 }
 
-bool HasMonths(CalendarNumber calendar) {
-    return calendar == CalendarNumber::CE || calendar == CalendarNumber::JC ||
-           calendar == CalendarNumber::LPM;
-}
-
 // Shows why months cannot be counted in what was given.
 bool AcceptTask(const InputTexts& texts, ComputeWindow& window, const ComputeOptions& options) {
     if (!texts.first.empty() && !texts.second.empty()) {

@@ -2,6 +2,8 @@
 
 #include "calendar/CheckedInt.h"
 #include "calendar/DayNumber.h"
+#include "calendar/EuroDate.h"
+#include "calendar/LeapWeekDate.h"
 #include "calendar/MonthArithmetic.h"
 #include "calendar/StaysIn32Bits.h"
 #include "calendar/Weekday.h"
@@ -91,6 +93,26 @@ bool IsLeapWeekForm(const ComputeState& state) {
 }
 
 }  // namespace
+
+bool HasMonths(CalendarNumber calendar) {
+    return calendar == CalendarNumber::CE || calendar == CalendarNumber::JC ||
+           calendar == CalendarNumber::LPM;
+}
+
+DateRecord RecordWithMonth(std::int32_t jdn, CalendarNumber calendar) {
+    DateRecord record{.jdn = jdn};
+    if (calendar == CalendarNumber::LPM) {
+        LeapWeekDate date{.jdn = jdn};
+        JdnToLpm(date);
+        record.year = date.year;
+        record.month = date.month;
+        record.day = date.day;
+    } else {
+        record.calendar = calendar == CalendarNumber::JC ? CalendarCode::J : CalendarCode::G;
+        jdn_to_euro_date(record);
+    }
+    return record;
+}
 
 bool AddDays(ComputeState& state) {
     return IsFoundInRange([&] { AddDaysToFirstDate(state); }, state.SecondDateRecord, state);

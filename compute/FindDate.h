@@ -8,6 +8,13 @@
 
 namespace calvoro {
 
+/// Whether months can be added to dates of a calendar: CE, JC and LPM.
+bool HasMonths(CalendarNumber calendar);
+
+/// A day as the record that months are added to.
+/// calendar  one that has months
+DateRecord RecordWithMonth(std::int32_t jdn, CalendarNumber calendar);
+
 /// Sets the day number of SecondDateRecord as FindSecondDate does.
 /// returns  false when the result is out of range
 bool AddDays(ComputeState& state);

@@ -16,11 +16,12 @@
 #include "calendar/LeapWeekDate.h"
 #include "calendar/OrdinalDate.h"
 #include "cli/JsonLines.h"
+#include "compute/CountDays.h"
+#include "compute/FindDate.h"
 #include "datetext/MonthText.h"
 #include "datetext/Tags.h"
 #include "platform/SystemClock.h"
 #include "python/ColumnReader.h"
-#include "python/Reckoning.h"
 #include "python/TextColumn.h"
 #include "quicktext/QuickWriter.h"
 #include "text/DateNames.h"
@@ -306,19 +307,36 @@ py::tuple Combine(const Days& first, const Days& second, const Flags& missing, c
     return py::make_tuple(result, gaps, refused);
 }
 
+ComputeState Counting(bool includeFirst, bool countWeekends) {
+    ComputeState state;
+    state.options.includeFirstDate = includeFirst;
+    state.options.countWeekendDays = countWeekends;
+    return state;
+}
+
 py::tuple Between(const Days& first, const Days& second, const Flags& missing, bool includeFirst,
                   bool countWeekends) {
-    Reckoning reckoning(CalendarNumber::CE, includeFirst, countWeekends);
+    ComputeState state = Counting(includeFirst, countWeekends);
     return Combine(first, second, missing, [&](std::int32_t from, std::int32_t to, std::int32_t& days) {
-        return reckoning.DaysBetween(from, to, days);
+        state.FirstDateRecord.jdn = from;
+        state.SecondDateRecord.jdn = to;
+        const bool isCounted = CountDays(state);
+        days = state.DateDifference;
+        return isCounted;
     });
 }
 
 py::tuple Add(const Days& dates, const Days& amounts, const Flags& missing, const std::string& notation,
               bool months, bool includeFirst, bool countWeekends) {
-    Reckoning reckoning(NotationNamed(notation), includeFirst, countWeekends);
+    ComputeState state = Counting(includeFirst, countWeekends);
+    state.options.firstCalendar = NotationNamed(notation);
     return Combine(dates, amounts, missing, [&](std::int32_t date, std::int32_t amount, std::int32_t& found) {
-        return months ? reckoning.AddMonthsTo(date, amount, found) : reckoning.AddDays(date, amount, found);
+        state.FirstDateRecord =
+            months ? RecordWithMonth(date, state.options.firstCalendar) : DateRecord{.jdn = date};
+        state.DateDifference = amount;
+        const bool isFound = months ? AddMonths(state) : AddDays(state);
+        found = state.SecondDateRecord.jdn;
+        return isFound;
     });
 }
 

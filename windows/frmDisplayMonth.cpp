@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <utility>
 
-#include "calendar/CheckedInt.h"
+#include "calendar/StaysIn32Bits.h"
 #include "datetext/Blanks.h"
 #include "text/DateNames.h"
 #include "text/NumberedTexts.h"
@@ -196,15 +196,16 @@ bool frmDisplayMonth::Draw() {
     const std::optional<std::int32_t> year = ReadYear(ui_.txbYear->text().toStdString());
     if (!year) return false;
     const CalendarCode calendar = ui_.optJulian->isChecked() ? CalendarCode::J : CalendarCode::G;
-    try {
-        const MonthGrid grid = DrawMonth(*year, ui_.cboMonths->currentIndex() + 1, calendar, GetWeekStart(),
-                                         ShownWeekdayNames(texts_.InterfaceLanguage));
-        SetCrLfText(*ui_.txbMonth, grid.text);
-        firstShownJdn_ = grid.firstShownJdn;
-        weekRows_ = grid.weekRows;
-    } catch (const ArithmeticOverflow&) {
+    MonthGrid grid;
+    if (!StaysIn32Bits([&] {
+            grid = DrawMonth(*year, ui_.cboMonths->currentIndex() + 1, calendar, GetWeekStart(),
+                             ShownWeekdayNames(texts_.InterfaceLanguage));
+        })) {
         return false;
     }
+    SetCrLfText(*ui_.txbMonth, grid.text);
+    firstShownJdn_ = grid.firstShownJdn;
+    weekRows_ = grid.weekRows;
     ui_.txbMonth->setAccessibleName(ToQt(Heading()));
     if (isoShown_) ShowIsoDates();
     return true;
@@ -240,13 +241,12 @@ void frmDisplayMonth::changeEvent(QEvent* event) {
 }
 
 void frmDisplayMonth::ShowIsoDates() {
-    try {
-        SetCrLfText(*ui_.txbISODates,
-                    DrawIsoWeekDates(firstShownJdn_, weekRows_, ui_.chkWithYear->isChecked(),
-                                     ShownWeekdayNames(texts_.InterfaceLanguage)));
-    } catch (const ArithmeticOverflow&) {
-        SetCrLfText(*ui_.txbISODates, "");
-    }
+    std::string dates;  // none where their week has no year
+    StaysIn32Bits([&] {
+        dates = DrawIsoWeekDates(firstShownJdn_, weekRows_, ui_.chkWithYear->isChecked(),
+                                 ShownWeekdayNames(texts_.InterfaceLanguage));
+    });
+    SetCrLfText(*ui_.txbISODates, dates);
 }
 
 bool frmDisplayMonth::IsoPossible() const {

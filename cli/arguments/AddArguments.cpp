@@ -4,6 +4,7 @@
 #include "cli/arguments/NotationKinds.h"
 #include "cli/arguments/OptionKinds.h"
 #include "cli/arguments/PairKinds.h"
+#include "compute/FindDate.h"
 
 namespace calvoro {
 namespace {

@@ -1,38 +1,10 @@
 #include "cli/arithmetic/Add.h"
 
-#include "calendar/EuroDate.h"
-#include "calendar/LeapWeekDate.h"
 #include "cli/arithmetic/SignedNumber.h"
 #include "compute/FindDate.h"
 #include "datetext/Tags.h"
 
 namespace calvoro {
-namespace {
-
-/// A day as the record that months are added to.
-DateRecord RecordWithMonth(std::int32_t jdn, CalendarNumber notation) {
-    DateRecord record;
-    record.jdn = jdn;
-    if (notation == CalendarNumber::LPM) {
-        LeapWeekDate date;
-        date.jdn = jdn;
-        JdnToLpm(date);
-        record.year = date.year;
-        record.month = date.month;
-        record.day = date.day;
-    } else {
-        record.calendar = notation == CalendarNumber::JC ? CalendarCode::J : CalendarCode::G;
-        jdn_to_euro_date(record);
-    }
-    return record;
-}
-
-}  // namespace
-
-bool HasMonths(CalendarNumber notation) {
-    return notation == CalendarNumber::CE || notation == CalendarNumber::JC ||
-           notation == CalendarNumber::LPM;
-}
 
 Add::Add(const AddOptions& options)
     : options_(options),

@@ -20,9 +20,6 @@ struct AddOptions {
     char delimiter = '\t';
 };
 
-/// Whether months can be added to dates of this notation.
-bool HasMonths(CalendarNumber notation);
-
 class Add final : public PairWork {
 public:
     /// options  must outlive the object

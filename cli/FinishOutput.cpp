@@ -1,4 +1,4 @@
-#include "cli/Usage.h"
+#include "cli/FinishOutput.h"
 
 #include <cerrno>
 #include <string>
