@@ -12,6 +12,7 @@
 #include "datetext/Blanks.h"
 #include "datetext/Thousands.h"
 #include "mainwindow/ControlTables.h"
+#include "text/DateNames.h"
 #include "text/NumberedTexts.h"
 
 namespace calvoro {
@@ -43,7 +44,7 @@ public:
     bool AskWhichBoxToClear() override { return false; }
     void FillWithToday() override {}
     // The second half of the message says that the unit was switched; here it is not.
-    void SwitchToDays() override { message = options_.texts.Numbered(kNoMonthsBetweenDatesText); }
+    void SwitchToDays() override { message = options_.texts.GetProgramText(kNoMonthsBetweenDatesText); }
     void SetTheFocus() override {}
 
     const ComputeOptions& Options() const { return options_; }
