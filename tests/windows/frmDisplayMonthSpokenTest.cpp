@@ -17,10 +17,6 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase() {
-        QCOMPARE(LoadProgramText(CALVORO_SOURCE_DIR "/text", "calvoro.dat"), std::string());
-    }
-
     void AnOptionsGroupIsToldOnce_data() {
         QTest::addColumn<QString>("option");
         QTest::addColumn<QString>("group");
