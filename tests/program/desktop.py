@@ -193,6 +193,14 @@ class Desktop:
     def clipboard(self):
         return self.tool("xclip", "-o", "-selection", "clipboard").stdout
 
+    def put_on_clipboard(self, text):
+        holder = subprocess.Popen(["xclip", "-selection", "clipboard", "-in", "-quiet"],
+                                  stdin=subprocess.PIPE, env=self.environment(), stderr=subprocess.DEVNULL)
+        self.started.append(holder)
+        holder.stdin.write(text.encode())
+        holder.stdin.close()
+        wait_for("the clipboard", lambda: self.clipboard()[:100] == text[:100])
+
     def close_from_frame(self, window):
         """What a window manager does when the button in a window's frame is pressed."""
         x11 = ctypes.CDLL("libX11.so.6")

@@ -34,15 +34,6 @@ class Lists(unittest.TestCase):
 
     # ---- hands
 
-    def put_on_clipboard(self, text):
-        holder = subprocess.Popen(["xclip", "-selection", "clipboard", "-in", "-quiet"],
-                                  stdin=subprocess.PIPE, env=self.desktop.environment(),
-                                  stderr=subprocess.DEVNULL)
-        self.desktop.started.append(holder)
-        holder.stdin.write(text.encode())
-        holder.stdin.close()
-        wait_for("the clipboard", lambda: self.desktop.clipboard()[:100] == text[:100])
-
     def drag(self, kind, content, window, x, y):
         """Drags something from another program to a place in a window."""
         source = subprocess.Popen([DRAG_SOURCE, kind, content], env=self.desktop.environment())
@@ -96,7 +87,7 @@ class Lists(unittest.TestCase):
     def test_a_pasted_column_is_copied_with_its_results(self):
         process = self.desktop.start()
         self.desktop.type("5")
-        self.put_on_clipboard(THREE_LINES)
+        self.desktop.put_on_clipboard(THREE_LINES)
         self.desktop.keys("BackSpace", "ctrl+v")
         self.wait_for_rows(THREE_ROWS)
         self.assertEqual(self.desktop.quit(process), 0)
@@ -130,7 +121,7 @@ class Lists(unittest.TestCase):
 
     def test_what_is_saved_can_be_opened_again(self):
         process = self.desktop.start()
-        self.put_on_clipboard(THREE_LINES)
+        self.desktop.put_on_clipboard(THREE_LINES)
         self.desktop.keys("ctrl+v")
         self.wait_for_rows(THREE_ROWS)
         file = self.desktop.folder / "saved.csv"
@@ -155,7 +146,7 @@ class Lists(unittest.TestCase):
         limited.chmod(0o755)
         self.desktop.program = str(limited)
         process = self.desktop.start()
-        self.put_on_clipboard("2000-01-01\n" * 20_000)
+        self.desktop.put_on_clipboard("2000-01-01\n" * 20_000)
         self.desktop.keys("ctrl+v")
         window = self.list_window()
         file = self.desktop.folder / "old.tsv"

@@ -133,7 +133,7 @@ void ListControls::FollowRows(const ListModel& model) {
 void ListControls::SetColumnWidths(const ListModel& model) {
     constexpr int kDateCharacters = 24;
     constexpr int kOtherCharacters = 14;
-    constexpr int kReasonCharacters = 50;
+    constexpr int kReasonCharacters = 75;
     const int character = tblList->fontMetrics().averageCharWidth();
     const auto set = [&](int column, int characters) {
         tblList->setColumnWidth(

@@ -35,7 +35,7 @@ void ListTable::changeEvent(QEvent* event) {
 }
 
 QSize ListTable::sizeHint() const {
-    constexpr int kCharacters = 135;
+    constexpr int kCharacters = 172;
     constexpr int kRows = 20;
     return {kCharacters * fontMetrics().averageCharWidth(), kRows * verticalHeader()->defaultSectionSize()};
 }

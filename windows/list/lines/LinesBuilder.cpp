@@ -25,12 +25,23 @@ bool ArePlain(const char* bytes) {
     return ((word | (word - kLowBits)) & kHighBits) == 0;
 }
 
-// The delimiter of comma-separated values: where the decimal sign is a comma, spreadsheets write semicolons.
-char CsvDelimiter(std::string_view line) {
-    const auto count = [line](char delimiter) { return CountFields(line, {delimiter, true}); };
-    const std::size_t commas = count(',');
-    if (count(';') > commas) return ';';
-    return commas == 1 && count('\t') > 1 ? '\t' : ',';
+// The delimiter of comma-separated values is the one of which the first row holds most outside quotes: where
+// the decimal sign is a comma, spreadsheets write semicolons.
+char CsvDelimiter(std::string_view text) {
+    std::size_t commas = 0;
+    std::size_t semicolons = 0;
+    std::size_t tabs = 0;
+    bool quoted = false;
+    for (const char character : text) {
+        if (character == '"') quoted = !quoted;
+        if (quoted) continue;
+        if (character == '\n') break;
+        if (character == ',') ++commas;
+        if (character == ';') ++semicolons;
+        if (character == '\t') ++tabs;
+    }
+    if (commas >= semicolons && commas >= tabs) return ',';
+    return semicolons >= tabs ? ';' : '\t';
 }
 
 }  // namespace
@@ -90,7 +101,7 @@ void LinesBuilder::FindShape() {
     constexpr std::size_t kSample = std::size_t{64} * 1024;  // bytes
     const std::string_view sample = text.substr(0, kSample);
     if (isCsv_) {
-        lines_->shape_ = {CsvDelimiter(sample.substr(0, sample.find('\n'))), true};
+        lines_->shape_ = {CsvDelimiter(sample), true};
     } else if (sample.find('\t') != std::string_view::npos) {
         lines_->shape_ = {'\t', false};
     }
