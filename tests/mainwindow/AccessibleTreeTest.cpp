@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "tests/mainwindow/MainWindowFixture.h"
+#include "tests/windows/list/ListJobs.h"
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
@@ -94,6 +95,7 @@ private Q_SLOTS:
         main.Press(Qt::Key_L, Qt::ControlModifier);
         auto* list = OpenedWindow<frmList>();
         list->Show({u"2024-02-29\nx\n"_s, QString()}, ListSide::FirstDates);
+        WaitForJobs(*list);
         QAccessibleInterface& table = Of(*list->findChild<QWidget*>(u"tblList"_s));
         QCOMPARE(table.role(), QAccessible::Table);
         QCOMPARE(table.text(QAccessible::Name), u"List"_s);

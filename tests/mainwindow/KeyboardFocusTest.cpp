@@ -4,6 +4,7 @@
 
 #include "mainwindow/frmClearOneTextBox.h"
 #include "tests/mainwindow/MainWindowFixture.h"
+#include "tests/windows/list/ListJobs.h"
 #include "windows/frmDisplayMonth.h"
 #include "windows/frmHelp.h"
 #include "windows/frmLargeDisplay.h"
@@ -131,6 +132,7 @@ private Q_SLOTS:
         QCOMPARE(main.Focused(), "tblList");
         CheckRound(Names("tblList chkWithGiven cmdClose optLinesAreFirst cmdPaste cmdOpen"));
         list->Show({"2024-02-29\n", {}}, ListSide::FirstDates);
+        WaitForJobs(*list);
         CheckRound(
             Names("tblList chkRefusalsOnly chkByDay cmdNextRefusal chkWithGiven cmdCopySelected cmdCopyAll "
                   "cmdSaveAs cmdClose optLinesAreFirst cmdPaste cmdOpen"));
@@ -227,6 +229,7 @@ private Q_SLOTS:
         auto* list = OpenedWindow<frmList>();
         QVERIFY(QTest::qWaitForWindowActive(list));
         list->Show({"2024-02-29\n", {}}, ListSide::FirstDates);
+        WaitForJobs(*list);
         CheckFocusIsSeen(*list, 13);
 
         main.Activate();

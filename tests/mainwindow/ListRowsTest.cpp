@@ -7,6 +7,7 @@
 
 #include "datetext/AnyNotation.h"
 #include "tests/mainwindow/MainWindowFixture.h"
+#include "tests/windows/list/ListJobs.h"
 #include "windows/QtText.h"
 #include "windows/frmList.h"
 
@@ -38,7 +39,8 @@ public:
 
     void Show(const QStringList& lines, ListSide side) {
         list_->Show({lines.join(u'\n') + u'\n', QString()}, side);
-        QTRY_COMPARE(Model().rowCount(), int(lines.size()));
+        WaitForJobs(*list_);
+        QCOMPARE(Model().rowCount(), int(lines.size()));
     }
 
     QAbstractItemModel& Model() const { return *list_->findChild<QTableView*>()->model(); }

@@ -3,6 +3,7 @@
 
 #include "tests/mainwindow/MainWindowFixture.h"
 #include "tests/windows/Reachable.h"
+#include "tests/windows/list/ListJobs.h"
 #include "windows/Placement.h"
 #include "windows/ScrollingPage.h"
 #include "windows/frmDisplayMonth.h"
@@ -180,6 +181,7 @@ private Q_SLOTS:
         CheckReachable(list, checked);
         if (QTest::currentTestFailed()) return;
         list.Show({u"2024-02-29\tx\n"_s, QString()}, ListSide::FirstDates);
+        WaitForJobs(list);
         list.findChild<QWidget*>(u"cmdStop"_s)->show();
         list.findChild<QWidget*>(u"prgJob"_s)->show();
         list.findChild<QWidget*>(u"cmdEarlier"_s)->show();

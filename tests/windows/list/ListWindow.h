@@ -3,6 +3,7 @@
 // A list window whose lines are whole numbers, and the hands of a user.
 
 #include <QClipboard>
+#include <QDialogButtonBox>
 #include <QGuiApplication>
 #include <QStringList>
 #include <QTableView>
@@ -13,6 +14,7 @@
 
 #include "tests/support/FakePlatform.h"
 #include "tests/windows/WindowTesting.h"
+#include "tests/windows/list/ListJobs.h"
 #include "tests/windows/list/ListTesting.h"
 #include "windows/frmList.h"
 
@@ -44,8 +46,19 @@ public:
         window.ShowList(ListSide::FirstDates);
         QVERIFY(QTest::qWaitForWindowActive(&window));
     }
-    void Give(const QString& text) { window.Show({text, QString()}, ListSide::FirstDates); }
-    void GiveFile(const QString& path) { window.Show({QString(), path}, ListSide::FirstDates); }
+    void Give(const QString& text) {
+        window.Show({text, QString()}, ListSide::FirstDates);
+        WaitForJobs(window);
+    }
+    void GiveFile(const QString& path) {
+        window.Show({QString(), path}, ListSide::FirstDates);
+        WaitForJobs(window);
+    }
+    /// Clicks on a button and waits for what it does.
+    void Do(const char* button) {
+        ClickOn(Button(button));
+        WaitForJobs(window);
+    }
 
     QString Write(const QString& name, const QByteArray& content) const {
         QFile file(folder.filePath(name));
@@ -89,23 +102,38 @@ public:
 
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(window.focusWidget(), key, modifiers);
+        WaitForJobs(window);
     }
 
     std::vector<ShownMessage>& Shown() { return fake.boxes.shown; }
 };
 
-/// Types a name into the dialog for files that comes up, and accepts it.
+/// The toolkit's dialogs for files remember things in the user's folder; here it is another one. To be called
+/// before the first dialog.
+inline void UseOwnConfigurationFolder() {
+    static const QTemporaryDir kFolder;
+    qputenv("XDG_CONFIG_HOME", kFolder.path().toUtf8());
+}
+
+/// Types a name into the dialog for files that comes up, and accepts it as soon as that is possible.
 inline void AnswerFileDialog(const QString& name, const std::function<void(QWidget&)>& before = {}) {
     QTimer::singleShot(5, qApp, [=] {
         QWidget* const dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) {
+        if (dialog == nullptr || !dialog->isVisible()) {
             AnswerFileDialog(name, before);
             return;
         }
         if (before) before(*dialog);
-        auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        edit->setText(name);
-        QTest::keyClick(edit, Qt::Key_Return);
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
+        const auto* buttons = dialog->findChild<QDialogButtonBox*>();
+        for (QAbstractButton* button : buttons->buttons()) {
+            if (buttons->buttonRole(button) != QDialogButtonBox::AcceptRole) continue;
+            if (button->isEnabled()) {
+                button->click();
+            } else {
+                AnswerFileDialog(name);
+            }
+        }
     });
 }
 

@@ -21,16 +21,17 @@ private:
     }
 
 private Q_SLOTS:
+    void initTestCase() { UseOwnConfigurationFolder(); }
     void CopiesAllRows() {
         ListWindow list;
         list.Open();
         list.Give(u"1\nx\n"_s);
-        ClickOn(list.Button("cmdCopyAll"));
+        list.Do("cmdCopyAll");
         QCOMPARE(list.fake.clipboard.calls.size(), std::size_t{2});
         QCOMPARE(list.fake.clipboard.text, std::string("1\t<1>\t2\todd\t\nx\t\t\t\tno number\n"));
         QVERIFY(list.State().endsWith(u"Copied: 2 lines"_s));
         ClickOnMark(list.Button("chkWithGiven"));
-        ClickOn(list.Button("cmdCopyAll"));
+        list.Do("cmdCopyAll");
         QCOMPARE(list.fake.clipboard.text, std::string("<1>\t2\todd\t\n\t\t\tno number\n"));
     }
 
@@ -53,7 +54,7 @@ private Q_SLOTS:
         QVERIFY(!list.Button("cmdCopySelected").isEnabled());
         list.Table().setFocus();
         list.Press(Qt::Key_A, Qt::ControlModifier);
-        ClickOn(list.Button("cmdCopySelected"));
+        list.Do("cmdCopySelected");
         QVERIFY(list.State().endsWith(u"Copied: 5 lines"_s));
     }
 
@@ -64,7 +65,7 @@ private Q_SLOTS:
         ClickOnMark(list.Button("chkByDay"));
         QTRY_COMPARE(list.Cell(0, 0), u"1"_s);
         ClickOnMark(list.Button("chkWithGiven"));
-        ClickOn(list.Button("cmdCopyAll"));
+        list.Do("cmdCopyAll");
         QCOMPARE(list.fake.clipboard.text, std::string("<1>\t2\todd\t\n<3>\t4\todd\t\n\t\t\tno number\n"));
     }
 
@@ -100,7 +101,7 @@ private Q_SLOTS:
             types->setFocus();
             QTest::keyClick(types, Qt::Key_Down);
         });
-        ClickOn(list.Button("cmdSaveAs"));
+        list.Do("cmdSaveAs");
         QCOMPARE(list.Content(u"list.csv"_s), QByteArray("1,<1>,2,odd,\n"));
     }
 
@@ -118,7 +119,7 @@ private Q_SLOTS:
             qobject_cast<QFileDialog*>(&dialog)->setOption(QFileDialog::DontConfirmOverwrite);
             ::setrlimit(RLIMIT_FSIZE, &low);
         });
-        ClickOn(list.Button("cmdSaveAs"));
+        list.Do("cmdSaveAs");
         QTRY_COMPARE(list.Shown().size(), std::size_t{1});
         QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
         QCOMPARE(ToQt(list.Shown().front().prompt),
@@ -133,7 +134,7 @@ private Q_SLOTS:
         list.Open();
         list.Give(u"1\n"_s);
         AnswerFileDialog(list.folder.filePath(u"gone.tsv"_s), [&list](QWidget&) { list.folder.remove(); });
-        ClickOn(list.Button("cmdSaveAs"));
+        list.Do("cmdSaveAs");
         QCOMPARE(list.Shown().size(), std::size_t{1});
         QVERIFY(list.Shown().front().prompt.ends_with("No such file or directory."));
     }
@@ -152,7 +153,7 @@ private Q_SLOTS:
         QTRY_VERIFY(list.Button("cmdStop").isVisible());
         QVERIFY(Control<QProgressBar>(list.window, "prgJob").value() > 0);
         // What else is wanted meanwhile is refused, the table can be used.
-        list.Give(u"1\n"_s);
+        list.window.Show({u"1\n"_s, QString()}, ListSide::FirstDates);
         QCOMPARE(list.Shown().size(), std::size_t{1});
         QVERIFY(list.Shown().front().prompt.starts_with("Something else is still being done."));
         QCOMPARE(list.Cell(2'999'999, 1), u"<1234567>"_s);

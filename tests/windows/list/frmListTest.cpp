@@ -27,6 +27,7 @@ private:
     }
 
 private Q_SLOTS:
+    void initTestCase() { UseOwnConfigurationFolder(); }
     void cleanup() { QGuiApplication::clipboard()->clear(); }
 
     void BeginsEmptyWithASentence() {
@@ -118,6 +119,7 @@ private Q_SLOTS:
         ListWindow list;
         list.Open();
         list.window.Show({u"1\n"_s, QString()}, ListSide::SecondDates);
+        WaitForJobs(list.window);
         QCOMPARE(list.rows.side, ListSide::SecondDates);
         QCOMPARE(list.Heads().first(), u"Second date"_s);
         QVERIFY(list.Button("optLinesAreSecond").isChecked());
@@ -178,7 +180,7 @@ private Q_SLOTS:
         auto* data = new QMimeData;
         data->setUrls({QUrl::fromLocalFile(list.Write(u"copied.txt"_s, "7\n"))});
         QGuiApplication::clipboard()->setMimeData(data);
-        ClickOn(list.Button("cmdPaste"));
+        list.Do("cmdPaste");
         QCOMPARE(list.Column(0), QStringList(u"7"_s));
     }
 
@@ -193,6 +195,7 @@ private Q_SLOTS:
         QVERIFY(enter.isAccepted());
         QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&list.window, &drop);
+        WaitForJobs(list.window);
         QCOMPARE(list.Column(0), QStringList(u"5"_s));
     }
 
@@ -234,11 +237,11 @@ private Q_SLOTS:
         auto* picture = new QMimeData;
         picture->setImageData(QImage(4, 4, QImage::Format_RGB32));
         QGuiApplication::clipboard()->setMimeData(picture);
-        ClickOn(list.Button("cmdPaste"));
+        list.Do("cmdPaste");
         QCOMPARE(list.Shown().size(), std::size_t{1});
         QCOMPARE(list.Shown().front().prompt, std::string("The clipboard holds no text."));
         QGuiApplication::clipboard()->setText(u"1\x0"_s + QChar(0) + u"2"_s);
-        ClickOn(list.Button("cmdPaste"));
+        list.Do("cmdPaste");
         QCOMPARE(list.Shown().back().prompt, std::string("This is no text in UTF-8."));
         QCOMPARE(list.Column(0), QStringList(u"1"_s));
     }
@@ -265,7 +268,7 @@ private Q_SLOTS:
         QCOMPARE(next(), 1);
         QVERIFY(list.Table().selectionModel()->isRowSelected(1, {}));
         list.Give(u"1\n2\n"_s);
-        ClickOn(list.Button("cmdNextRefusal"));
+        list.Do("cmdNextRefusal");
         QVERIFY(list.State().contains(u"No line is refused."_s));
     }
 
@@ -279,6 +282,7 @@ private Q_SLOTS:
         QCOMPARE(list.Model().headerData(1, Qt::Vertical).toInt(), 4);
         QCOMPARE(list.Table().currentIndex().row(), 1);
         ClickOnMark(list.Button("chkRefusalsOnly"));
+        WaitForJobs(list.window);
         QCOMPARE(list.Model().rowCount(), 4);
         QCOMPARE(list.Table().currentIndex().row(), 3);
     }
