@@ -78,7 +78,7 @@ MONTHS = [
       *shown_after((PRESS, "frmDisplayMonth.cmdDisplayNextMonth0")),
       *shown_after((PRESS, "frmDisplayMonth.cmdDisplayNextMonth1")),
       *shown_after((PRESS, "frmDisplayMonth.lblMonth"), *keys("Down", "Down", "Return")),
-      *shown_after((PRESS, "frmDisplayMonth.lblYear"), (KEY, "ctrl+a"), (TYPE, "1582"), (KEY, "Return")),
+      *shown_after((PRESS, "frmDisplayMonth.lblYear"), (TYPE, "1582"), (KEY, "Return")),
       *shown_after((PASS, "frmDisplayMonth.optJulian")),
       *shown_after((PASS, "frmDisplayMonth.optCommonEra")),
       (KEY, "Escape")]),
