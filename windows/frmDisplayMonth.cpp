@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <utility>
 
 #include "calendar/StaysIn32Bits.h"
@@ -45,6 +44,8 @@ frmDisplayMonth::frmDisplayMonth(const Platform& platform, Texts& texts, QWidget
     ui_.FillMonths(texts);
     ui_.SetIsoCaption(ToQt(texts.GetProgramText(kDisplayIsoText)));
     SetCaptions();
+    whenIdle_.setSingleShot(true);
+    connect(&whenIdle_, &QTimer::timeout, this, [this] { announcer_->Announce(announced_); });
     ConnectControls();
     new WindowActivation(*this, [this] { OnActivated(); });
 }
@@ -235,9 +236,7 @@ void frmDisplayMonth::AnnounceHeading() {
 void frmDisplayMonth::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
-    if (std::exchange(announceWhenActive_, false)) {
-        QTimer::singleShot(0, this, [this] { announcer_->Announce(announced_); });
-    }
+    if (std::exchange(announceWhenActive_, false)) whenIdle_.start();
 }
 
 void frmDisplayMonth::ShowIsoDates() {

@@ -3,6 +3,7 @@
 // The month calendar window: one month of the Common Era or the Julian Calendar as text, on request with
 // the ISO week dates of its weeks below. Closing hides it.
 
+#include <QTimer>
 #include <QWidget>
 #include <cstdint>
 #include <functional>
@@ -92,6 +93,7 @@ private:
     Announcer* announcer_;
     std::string announced_;  // the heading, while the window is open
     bool announceWhenActive_ = false;
+    QTimer whenIdle_;  // goes off when the events at hand are done
 };
 
 }  // namespace calvoro
