@@ -16,6 +16,7 @@
 #include <QShortcut>
 #include <QStringList>
 #include <QTableView>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -25,8 +26,7 @@
 #include "mainwindow/frmMain.h"
 #include "platform/Platform.h"
 #include "platform/SystemClock.h"
-#include "text/BuiltInProgramTexts.h"
-#include "text/ProgramTextFile.h"
+#include "text/Texts.h"
 #include "windows/frmList.h"
 
 namespace {
@@ -45,7 +45,28 @@ double Memory(const char* name) {
 
 void Print(const char* name, double value) {
     std::printf("%s %.3f\n", name, value);
+    std::fflush(stdout);
 }
+
+/// How long an event has had to wait at most.
+class LongestWait : public QObject {
+public:
+    LongestWait() {
+        startTimer(0);
+        since_.start();
+    }
+    double Seconds() const { return seconds_; }
+
+protected:
+    void timerEvent(QTimerEvent* /*event*/) override {
+        seconds_ = std::max(seconds_, static_cast<double>(since_.nsecsElapsed()) / 1e9);
+        since_.start();
+    }
+
+private:
+    QElapsedTimer since_;
+    double seconds_ = 0;
+};
 
 /// Sees when a table has been painted.
 class PaintWatch : public QObject {
@@ -159,8 +180,7 @@ int ShowList(const QString& path, bool pasted) {
     const SystemClock clock;
     NoWeb web;
     NoPlace place;
-    LoadProgramTextsFromMemory(BuiltInProgramTexts());
-    frmMain window(Platform{boxes, clipboard, clock, web, place}, {});
+    frmMain window(Platform{boxes, clipboard, clock, web, place}, {}, Texts());
     window.Start();
     window.findChild<QAbstractButton*>(QStringLiteral("optFirstDateIsJC"))->click();
     frmList& list = OpenList(window);
@@ -174,6 +194,7 @@ int ShowList(const QString& path, bool pasted) {
     QApplication::processEvents();
     const double before = Memory("VmRSS:");
 
+    const LongestWait wait;
     QElapsedTimer timer;
     timer.start();
     if (pasted) {
@@ -183,6 +204,7 @@ int ShowList(const QString& path, bool pasted) {
     }
     WaitForPaint(watch, [&] { return table.model()->rowCount() > 0; });
     Print("first_rows", static_cast<double>(timer.nsecsElapsed()) / 1e9);
+    Print("longest_wait", wait.Seconds());
     ScrollToEnd(table, watch);
     const auto* state = list.findChild<QLabel*>(QStringLiteral("lblState"));
     timer.start();

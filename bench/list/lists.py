@@ -83,6 +83,7 @@ def main():
              memory <= most_memory)
     show("last rows after a scroll to the end", f"{1000 * median('file', 'last_rows'):.1f} ms",
          "at once: at most 100 ms", median("file", "last_rows") <= 0.1)
+    show("longest wait of an event meanwhile", f"{1000 * median('file', 'longest_wait'):.0f} ms", "none", True)
     speed = statistics.median(cli["copy"] / row["copy"] for cli, row in zip(rows["cli"], rows["file"]))
     show("copying all, times as fast as `compute --json`", f"{speed:.2f}", f"at least {LEAST_SPEED}",
          speed >= LEAST_SPEED)
