@@ -60,6 +60,7 @@ void frmList::ConnectControls() {
         if (ui_.prgJob->isVisibleTo(this)) ui_.ShowProgress(runner_->Done());
     });
     connect(runner_, &JobRunner::Ended, this, &frmList::OnEnded);
+    connect(this, &frmList::RearrangeWanted, this, &frmList::Rearrange, Qt::QueuedConnection);
     connect(runner_, &JobRunner::OutOfMemory, this, [this] { Tell(std::string(Words().outOfMemory)); });
 
     connect(ui_.optLinesAreFirst, &QRadioButton::toggled, this, [this](bool first) {
@@ -203,8 +204,7 @@ bool frmList::Begin(std::shared_ptr<SlicedJob> job, std::function<void()> done, 
 void frmList::OnEnded() {
     doing_ = Doing::Nothing;
     ui_.HideProgress();
-    if (!std::exchange(rearrangeLater_, false)) return;
-    QMetaObject::invokeMethod(this, &frmList::Rearrange, Qt::QueuedConnection);
+    if (std::exchange(rearrangeLater_, false)) Q_EMIT RearrangeWanted();
 }
 
 template <typename Load>

@@ -49,6 +49,10 @@ public:
     /// Sets title, captions and words in the language of the interface.
     void SetLanguageDependentText();
 
+Q_SIGNALS:
+    /// To this window itself, when what was in the way has ended.
+    void RearrangeWanted();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
