@@ -124,7 +124,7 @@ const QStringList& ListModel::TextsOf(std::uint32_t row) const {
 
 QStringList ListModel::MakeTexts(std::uint32_t row) const {
     const std::string_view line = sheet_.Line(row);
-    const TextShape& shape = sheet_.lines->Shape();
+    const FieldShape& shape = sheet_.lines->Shape();
     std::vector<std::string_view> fields;
     SplitFields(line, shape, sheet_.lines->Columns(), fields);
     fields.resize(sheet_.lines->Columns());

@@ -8,11 +8,11 @@
 namespace calvoro {
 namespace {
 
-constexpr TextShape kCsv{',', true};
-constexpr TextShape kTabs{'\t', false};
-constexpr TextShape kPlain{};
+constexpr FieldShape kCsv{',', true};
+constexpr FieldShape kTabs{'\t', false};
+constexpr FieldShape kPlain{};
 
-std::vector<std::string> Texts(std::string_view line, const TextShape& shape, std::size_t most = 256) {
+std::vector<std::string> Texts(std::string_view line, const FieldShape& shape, std::size_t most = 256) {
     std::vector<std::string_view> fields;
     SplitFields(line, shape, most, fields);
     std::vector<std::string> texts;

@@ -32,7 +32,7 @@ public:
     /// cursor  of one who has asked these lines only
     std::string_view Line(std::uint32_t row, Cursor& cursor) const;
 
-    const TextShape& Shape() const { return shape_; }
+    const FieldShape& Shape() const { return shape_; }
 
     /// The most fields that any row has, and no more than kMostColumns.
     std::size_t Columns() const { return columns_; }
@@ -50,7 +50,7 @@ private:
 
     std::string text_;
     std::size_t begin_ = 0;  // behind a byte order mark
-    TextShape shape_;
+    FieldShape shape_;
     std::vector<Mark> marks_;
     std::uint32_t count_ = 0;
     std::size_t columns_ = 1;

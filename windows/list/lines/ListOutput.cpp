@@ -8,7 +8,7 @@ namespace {
 
 // In a tab-separated text quotes are characters like any other, unless they were not so where the text comes
 // from.
-bool NeedsQuotes(std::string_view text, const OutputForm& form, const TextShape& shape) {
+bool NeedsQuotes(std::string_view text, const OutputForm& form, const FieldShape& shape) {
     if (form.csv) return text.find_first_of(",\"\r\n") != std::string_view::npos;
     return text.find_first_of("\t\r\n") != std::string_view::npos || (shape.quotes && text.starts_with('"'));
 }
@@ -66,7 +66,7 @@ void ListOutput::AppendRow(std::uint32_t row) {
 
 // Every row gets all columns that the list has, so that what follows stands below each other.
 void ListOutput::AppendGiven(std::string_view line) {
-    const TextShape& shape = sheet_.lines->Shape();
+    const FieldShape& shape = sheet_.lines->Shape();
     SplitFields(line, shape, sheet_.lines->Columns(), fields_);
     fields_.resize(sheet_.lines->Columns());
     for (const std::string_view field : fields_) {

@@ -27,7 +27,7 @@ struct ListSheet {
     /// computed  replaced
     void Compute(std::string_view line, ListRow& computed) const {
         std::string scratch;
-        const TextShape& shape = lines->Shape();
+        const FieldShape& shape = lines->Shape();
         maker->Make(FieldText(FieldAt(line, shape, dateColumn), shape, scratch), computed);
     }
 

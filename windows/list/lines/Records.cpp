@@ -23,7 +23,7 @@ std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
 
 // Where the field that begins at `from` ends. What stands between closing quotes and the delimiter belongs to
 // it; quotes that are not closed are characters like any other.
-std::size_t EndOfField(std::string_view line, std::size_t from, const TextShape& shape) {
+std::size_t EndOfField(std::string_view line, std::size_t from, const FieldShape& shape) {
     if (shape.delimiter == '\0') return line.size();
     if (shape.quotes && from < line.size() && line[from] == '"') {
         const std::size_t quote = FindClosingQuote(line, from + 1);
@@ -34,7 +34,7 @@ std::size_t EndOfField(std::string_view line, std::size_t from, const TextShape&
 
 // The line end at which the row that begins the text ends, when a quoted field reaches over its first one;
 // the first one when no quotes are open there, or when they are never closed.
-std::size_t EndOfQuotedLines(std::string_view text, std::size_t firstEnd, const TextShape& shape) {
+std::size_t EndOfQuotedLines(std::string_view text, std::size_t firstEnd, const FieldShape& shape) {
     std::size_t end = firstEnd;
     for (std::size_t at = 0; at < end;) {
         if (text[at] != '"') {
@@ -51,7 +51,7 @@ std::size_t EndOfQuotedLines(std::string_view text, std::size_t firstEnd, const 
 
 }  // namespace
 
-Record RecordAt(std::string_view text, std::size_t from, const TextShape& shape) {
+Record RecordAt(std::string_view text, std::size_t from, const FieldShape& shape) {
     // Two bytes more for the line end.
     const std::string_view ahead = text.substr(from, kLongestLine + 2);
     const bool isWhole = from + ahead.size() == text.size();
@@ -66,7 +66,7 @@ Record RecordAt(std::string_view text, std::size_t from, const TextShape& shape)
     return record;
 }
 
-void SplitFields(std::string_view line, const TextShape& shape, std::size_t most,
+void SplitFields(std::string_view line, const FieldShape& shape, std::size_t most,
                  std::vector<std::string_view>& fields) {
     fields.clear();
     std::size_t at = 0;
@@ -79,7 +79,7 @@ void SplitFields(std::string_view line, const TextShape& shape, std::size_t most
     fields.push_back(line.substr(at));
 }
 
-std::string_view FieldAt(std::string_view line, const TextShape& shape, std::size_t index) {
+std::string_view FieldAt(std::string_view line, const FieldShape& shape, std::size_t index) {
     std::size_t at = 0;
     for (;; --index) {
         const std::size_t end = EndOfField(line, at, shape);
@@ -89,7 +89,7 @@ std::string_view FieldAt(std::string_view line, const TextShape& shape, std::siz
     }
 }
 
-std::size_t CountFields(std::string_view line, const TextShape& shape) {
+std::size_t CountFields(std::string_view line, const FieldShape& shape) {
     if (shape.delimiter == '\0') return 1;
     std::size_t count = 1;
     for (std::size_t at = EndOfField(line, 0, shape); at < line.size(); ++count) {
@@ -98,7 +98,7 @@ std::size_t CountFields(std::string_view line, const TextShape& shape) {
     return count;
 }
 
-std::string_view FieldText(std::string_view field, const TextShape& shape, std::string& scratch) {
+std::string_view FieldText(std::string_view field, const FieldShape& shape, std::string& scratch) {
     if (!shape.quotes || field.empty() || field.front() != '"') return field;
     const std::size_t closing = FindClosingQuote(field, 1);
     if (closing == field.size()) return field;

@@ -16,11 +16,11 @@ namespace calvoro {
 inline constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;  // bytes
 
 /// How the rows of a text are divided into fields.
-struct TextShape {
+struct FieldShape {
     char delimiter = '\0';  // none: a row is one field
     bool quotes = false;    // a field that begins with '"' goes on to the closing one
 
-    friend bool operator==(const TextShape&, const TextShape&) = default;
+    friend bool operator==(const FieldShape&, const FieldShape&) = default;
 };
 
 struct Record {
@@ -32,20 +32,20 @@ struct Record {
 /// The row that begins at a place. Its line end is LF or CR LF, or the end of the text. Quotes that are not
 /// closed within kLongestLine are characters like any other.
 /// from  within the text
-Record RecordAt(std::string_view text, std::size_t from, const TextShape& shape);
+Record RecordAt(std::string_view text, std::size_t from, const FieldShape& shape);
 
 /// Finds the fields of a row as they stand in it, quotes included.
 /// fields  replaced; at most `most` of them, the last one with all that follows
-void SplitFields(std::string_view line, const TextShape& shape, std::size_t most,
+void SplitFields(std::string_view line, const FieldShape& shape, std::size_t most,
                  std::vector<std::string_view>& fields);
 
 /// One field of a row, quotes included; "" when the row has fewer.
-std::string_view FieldAt(std::string_view line, const TextShape& shape, std::size_t index);
+std::string_view FieldAt(std::string_view line, const FieldShape& shape, std::size_t index);
 
-std::size_t CountFields(std::string_view line, const TextShape& shape);
+std::size_t CountFields(std::string_view line, const FieldShape& shape);
 
 /// What a field says.
 /// scratch  holds the answer when the field is quoted
-std::string_view FieldText(std::string_view field, const TextShape& shape, std::string& scratch);
+std::string_view FieldText(std::string_view field, const FieldShape& shape, std::string& scratch);
 
 }  // namespace calvoro
