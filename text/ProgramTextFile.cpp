@@ -140,7 +140,7 @@ std::int32_t CopyText(std::string_view text, char* buffer, std::int32_t capacity
         // A byte 10xxxxxx continues a character.
         while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U) --length;
     }
-    std::memcpy(buffer, text.data(), length);
+    text.copy(buffer, length);
     buffer[length] = '\0';
     return static_cast<std::int32_t>(length);
 }
