@@ -26,6 +26,7 @@ class BuildByCMake(build_ext):
         subprocess.run(
             ["cmake", "-G", "Ninja", "-S", str(ROOT), "-B", str(tree), "-DCMAKE_BUILD_TYPE=Release",
              "-DCALVORO_BUILD_PYTHON=ON", "-DCALVORO_BUILD_WINDOW=OFF", "-DCALVORO_BUILD_TESTS=OFF",
+             "-DCALVORO_JOIN_SOURCES=ON",
              f"-DCALVORO_PYTHON={sys.executable}"], check=True)
         subprocess.run(["cmake", "--build", str(tree), "--target", "calvoro_python"], check=True)
         target.parent.mkdir(parents=True, exist_ok=True)

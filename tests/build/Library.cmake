@@ -12,7 +12,8 @@ a month later: 2024-03-29
 two thousand million months later: a result leaves the range of 32-bit numbers
 2024-02-29 CE plus 10 days = 2024-03-10 CE, Sunday, excluding 1st date
 ")
-set(compiler -G Ninja "-DCMAKE_CXX_COMPILER=${COMPILER}" -DCMAKE_BUILD_TYPE=Debug)
+set(compiler -G Ninja "-DCMAKE_CXX_COMPILER=${COMPILER}" -DCMAKE_BUILD_TYPE=Debug
+    -DCALVORO_JOIN_SOURCES=ON)
 
 function(run)
   execute_process(COMMAND ${ARGN} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
