@@ -6,7 +6,8 @@
 namespace calvoro {
 
 /// Turns the signals that ask a process to end (SIGTERM, SIGINT, SIGHUP) into a call from the event loop,
-/// where windows may be read and files written. One at a time may exist; it is never undone.
+/// where windows may be read and files written. One at a time may exist; it is never undone. On Windows,
+/// which sends none, it does nothing.
 class EndingSignals : public QObject {
     Q_OBJECT
 

@@ -1,7 +1,7 @@
 # The include roots keep one layer out of another; three things they cannot see are checked here, in every
 # build: a path with "../" that walks around them, platform/qt, which lies inside a folder that the windows may
-# use but is for the program's entry alone, and the headers of one system, which are for platform/ and for the
-# signals that end the window program.
+# use but is for the program's entry alone, and the headers of one system, which are for that system's folders
+# of platform/ and for the signals that end the window program.
 #
 # Included by the main CMakeLists.txt it adds the check; run as a script it is the check.
 
@@ -13,7 +13,10 @@ if(NOT CMAKE_SCRIPT_MODE_FILE)
   return()
 endif()
 
-set(faults 0)
+# signal.h is the language's own, but what Windows has of it ends no window program.
+string(JOIN "|" of_one_system
+  conio csignal dirent dlfcn fcntl fnmatch glob grp io langinfo netdb objbase poll process pthread pwd
+  sched shellapi shlobj signal spawn strings syslog termios unistd winsock2 windows)
 foreach(folder calendar datetext quicktext text compute platform windows mainwindow app cli python tests bench)
   file(GLOB_RECURSE files "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(file IN LISTS files)
@@ -26,9 +29,9 @@ foreach(folder calendar datetext quicktext text compute platform windows mainwin
       if(line MATCHES "\"platform/qt/" AND NOT name MATCHES "^(app|platform/qt|tests)/")
         message(SEND_ERROR "${name}: platform/qt is for app/ alone: ${line}")
       endif()
-      if(line MATCHES "<(sys/.*|fcntl|io|poll|pthread|pwd|shellapi|shlobj|unistd|windows)\\.h>"
-         AND NOT name MATCHES "^(platform/|app/EndingSignals\\.cpp|tests/|bench/)")
-        message(SEND_ERROR "${name}: a header of one system is for platform/ alone: ${line}")
+      if(line MATCHES "<((sys|arpa|net|netinet|linux|mach)/.*|${of_one_system})(\\.h)?>"
+         AND NOT name MATCHES "^(platform/(qt/)?(posix|windows|macos)/|app/EndingSignals\\.cpp|tests/|bench/)")
+        message(SEND_ERROR "${name}: a header of one system is for that system's folder of platform/: ${line}")
       endif()
     endforeach()
   endforeach()

@@ -1,5 +1,7 @@
 #include "platform/qt/QtWebOpener.h"
 
+#include <unistd.h>
+
 #include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QProcess>
@@ -9,18 +11,12 @@
 #include <chrono>
 #include <utility>
 
-#if defined(Q_OS_UNIX)
-#include <unistd.h>
-#endif
-
 namespace calvoro {
 
 namespace {
 
 constexpr int kOpened = 33;
 constexpr int kNothingOpensIt = 31;
-
-#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
 
 /// Starts the opener of free desktops, which tells only by its exit code whether it found a browser.
 void StartOpener(const QString& opener, const QUrl& url, std::function<void(int)> failedLater) {
@@ -49,16 +45,6 @@ void StartOpener(const QString& opener, const QUrl& url, std::function<void(int)
 QString Opener() {
     return QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
 }
-
-#else
-
-void StartOpener(const QString& /*opener*/, const QUrl& /*url*/, std::function<void(int)> /*failedLater*/) {}
-
-QString Opener() {
-    return {};
-}
-
-#endif
 
 }  // namespace
 

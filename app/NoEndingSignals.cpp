@@ -1,0 +1,8 @@
+#include "app/EndingSignals.h"
+
+namespace calvoro {
+
+// A program that shows windows is sent no signals there; the end of a session is told by the toolkit.
+EndingSignals::EndingSignals(std::function<void()> /*end*/, QObject* parent) : QObject(parent) {}
+
+}  // namespace calvoro
