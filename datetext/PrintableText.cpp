@@ -51,7 +51,7 @@ void AppendHex(std::string& to, std::string_view bytes) {
 bool CanBeSeen(std::uint32_t character) {
     const auto* const range =
         std::find_if(kUnseen.begin(), kUnseen.end(), [=](const Range& row) { return character <= row.last; });
-    return range == kUnseen.end() || character < range->first;
+    return range != kUnseen.end() && character < range->first;  // behind the last row there are no characters
 }
 
 std::string PrintableText(std::string_view text) {

@@ -206,6 +206,22 @@ TEST(IsoDifferenceDeliberate, WeeksLentAreThoseOfTheFirstDatesYear) {
     EXPECT_EQ(fromYearMinusTwo.weeks, 42);
 }
 
+TEST(IsoDifference, TellsAnyCountThatStaysNegative) {
+    // Year 0 has a week 53 of which the rule for long years knows nothing, so that two weeks too many are
+    // lent.
+    const Difference weeks = Between({0, 53, 7}, {2, 1, 1});
+    EXPECT_EQ(weeks.years, 1);
+    EXPECT_EQ(weeks.weeks, -1);
+    EXPECT_EQ(weeks.days, 1);
+    EXPECT_EQ(weeks.status, -1);
+    // Days that no week has: a week is lent, then a year, and no more.
+    const Difference days = Between({2020, 10, 20}, {2022, 11, 1});
+    EXPECT_EQ(days.years, 1);
+    EXPECT_EQ(days.weeks, 53);
+    EXPECT_EQ(days.days, -5);
+    EXPECT_EQ(days.status, -1);
+}
+
 TEST(IsoDifference, RaisesOverflow) {
     EXPECT_THROW(Between({kSmallest, 1, 1}, {1, 1, 1}), ArithmeticOverflow);
     EXPECT_THROW(Between({1, kSmallest, 1}, {1, 1, 1}), ArithmeticOverflow);

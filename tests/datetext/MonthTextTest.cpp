@@ -288,6 +288,12 @@ TEST(DrawIsoWeekDates, TrimsTheEndOfTheHeadingWithTheYearOnly) {
     EXPECT_EQ(DrawIsoWeekDates(0, 0, false, words), " Mon    Tue    Wed    Thu    Fri    Sat       ");
 }
 
+TEST(DrawIsoWeekDates, HasAnEmptyHeadingWithTheYearWithoutNames) {
+    EXPECT_EQ(DrawIsoWeekDates(2460339, 1, true, WeekdayWords{}),
+              "\r\n4-W05-1  4-W05-2  4-W05-3  4-W05-4  4-W05-5  4-W05-6  4-W05-7");
+    EXPECT_EQ(DrawIsoWeekDates(0, 0, true, WeekdayWords{}), "");
+}
+
 TEST(DrawIsoWeekDates, IsAHeadingAloneWithoutWeekLines) {
     EXPECT_EQ(DrawIsoWeekDates(0, 0, false, kEnglish), " Mon    Tue    Wed    Thu    Fri    Sat    Sun   ");
 }

@@ -75,6 +75,11 @@ TEST(CanBeSeen, DoesNotHoldForWhatHidesOrTurnsText) {
     }
 }
 
+TEST(CanBeSeen, DoesNotHoldForNumbersOfNoCharacter) {
+    EXPECT_FALSE(CanBeSeen(0x110000));
+    EXPECT_FALSE(CanBeSeen(0xFFFFFFFF));
+}
+
 TEST(PrintableText, IsNeverCut) {
     const std::string text(10000, 'a');
     EXPECT_EQ(PrintableText(text + "\n"), text + "\\x0A");
@@ -120,6 +125,15 @@ INSTANTIATE_TEST_SUITE_P(
                     Utf8Row{"FiveBytes", "\xF8\x88\x80\x80\x80", 0}, Utf8Row{"Continuation", "\xBF", 0},
                     Utf8Row{"Short", "\xF0\x9F\x98", 0}),
     [](const auto& row) { return row.param.name; });
+
+TEST(CountCharacters, CountsAByteOfNoCharacterAsOne) {
+    EXPECT_EQ(CountCharacters(""), 0u);
+    EXPECT_EQ(CountCharacters("day"), 3u);
+    EXPECT_EQ(CountCharacters("M\xC3\xA4rz"), 4u);
+    EXPECT_EQ(CountCharacters("\xFF"), 1u);
+    EXPECT_EQ(CountCharacters("a\x80\xF0\x9F\x98z\xE2\x82\xAC"), 7u)
+        << "four bytes of none, three characters";
+}
 
 }  // namespace
 }  // namespace calvoro

@@ -56,6 +56,8 @@ TEST(SeparateThousands, CutsOffWhatDoesNotFitItsBuffer) {
     char buffer[kThousandsBufferSize];
     separate_thousands("123456789012345", ',', buffer);
     EXPECT_STREQ(buffer, "123,456,789,012,345") << "nineteen characters and the NUL fit";
+    separate_thousands("123456789012345678", ',', buffer);
+    EXPECT_STREQ(buffer, "123,456,789,012,345") << "the separator is the first that does not fit";
     separate_thousands("1234567890123456", ',', buffer);
     EXPECT_STREQ(buffer, "1,234,567,890,123,4");
     separate_thousands("-1234567890123456", ',', buffer);
