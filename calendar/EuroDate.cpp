@@ -4,13 +4,6 @@
 
 namespace calvoro {
 
-std::int32_t RareDateToJdn(DateRecord& record) {
-    if (HasDayNumbers(record.calendar)) {
-        record.jdn = NarrowToInt32(formula::CommonEraDayNumber(record.year, record.month, record.day));
-    }
-    return record.jdn;
-}
-
 std::int32_t days_elapsed(const DateRecord& later, const DateRecord& earlier, std::int32_t& status) {
     if (!HasDayNumbers(later.calendar) || !HasDayNumbers(earlier.calendar)) {
         status = kCannotBeConverted;

@@ -17,23 +17,18 @@ constexpr bool HasDayNumbers(CalendarCode code) {
     return code != CalendarCode::A;
 }
 
-/// euro_date_to_jdn for the codes that no box has, out of line.
-std::int32_t RareDateToJdn(DateRecord& record);
-
 /// Day number of the record's year, month and day in its calendar (J: Julian; any other code: Common Era),
 /// stored in the record's jdn as well. A record whose calendar has no day numbers stays as it is, and its
 /// jdn is returned.
 /// record  month 1 to 12, day from 1; any year whose day number fits 32 bits
 /// throws  ArithmeticOverflow when the day number does not fit
 inline std::int32_t euro_date_to_jdn(DateRecord& record) {
-    using namespace formula;
-    if (record.calendar == CalendarCode::G) [[likely]] {
-        return record.jdn = NarrowToInt32(CommonEraDayNumber(record.year, record.month, record.day));
-    }
-    if (record.calendar == CalendarCode::J) {
-        return record.jdn = NarrowToInt32(JulianDayNumber(record.year, record.month, record.day));
-    }
-    return RareDateToJdn(record);
+    if (!HasDayNumbers(record.calendar)) [[unlikely]]
+        return record.jdn;
+    record.jdn = NarrowToInt32(record.calendar == CalendarCode::J
+                                   ? formula::JulianDayNumber(record.year, record.month, record.day)
+                                   : formula::CommonEraDayNumber(record.year, record.month, record.day));
+    return record.jdn;
 }
 
 /// Fills year, month and day of the record's day number in the record's calendar (J: Julian; any other

@@ -58,8 +58,10 @@ constexpr YearAndDay SplitFourYearCalendar(std::uint64_t scaledDays) {
 /// Splits a count of Common Era days in years whose leap day is their last day. The leap days that three of
 /// four centuries leave out are put back first, which makes it the plain four-year calendar.
 constexpr YearAndDay SplitCommonEra(std::uint64_t days) {
-    const std::uint64_t century = (4 * days + 3) / kDaysInCommonEraCycle;
-    return SplitFourYearCalendar(4 * (days + century - century / 4) + 3);
+    const std::uint64_t scaledDays = 4 * days + 3;
+    const std::uint64_t century = scaledDays / kDaysInCommonEraCycle;
+    const std::uint64_t leapCentury = century & ~std::uint64_t{3};  // 4 (century / 4): the last leap one
+    return SplitFourYearCalendar(scaledDays + 4 * century - leapCentury);
 }
 
 /// The year of a shifted count as it is numbered, where the count began with year `first`.
@@ -91,8 +93,8 @@ constexpr std::int64_t DaysBeforeCommonEraYear(std::int64_t year) {
 }
 
 /// The year, begun in March, that a month belongs to.
-constexpr std::int64_t MarchYear(std::int64_t year, std::int64_t month) {
-    return year - 1 + ((month + 13) >> 4);  // 0 for January and February, 1 for the others, without a branch
+constexpr std::int64_t MarchYear(std::int64_t year, std::int32_t month) {
+    return year - (static_cast<std::uint32_t>(month) < 3 ? 1 : 0);  // unsigned: a subtraction with borrow
 }
 
 // Days from 1 March to the first day of each month. The rows that are no month keep any month number inside
