@@ -7,11 +7,14 @@
 namespace calvoro {
 namespace {
 
-// Bytes that a test has read leave one thing to fail.
+// Bytes that a test has read leave one thing to fail; the next call reads them again then.
 const ProgramTexts& BuiltIn() {
-    static const ProgramTextReading read = ReadProgramTexts(BuiltInProgramTexts());
-    if (!read.texts) throw std::bad_alloc();
-    return *read.texts;
+    static const ProgramTexts texts = [] {
+        const ProgramTextReading read = ReadProgramTexts(BuiltInProgramTexts());
+        if (!read.texts) throw std::bad_alloc();
+        return *read.texts;
+    }();
+    return texts;
 }
 
 }  // namespace

@@ -265,6 +265,38 @@ TEST(FindDate, SetsTheDayNumberAlone) {
     EXPECT_EQ(state.SecondDateRecord, (DateRecord{.jdn = kMonday + 3}));
 }
 
+struct RecordRow {
+    std::string name;
+    CalendarNumber calendar;
+    DateRecord record;  // of 29 February 2024 CE
+};
+
+void PrintTo(const RecordRow& row, std::ostream* out) {
+    *out << row.name;
+}
+
+class RecordWithMonthOf : public testing::TestWithParam<RecordRow> {};
+
+TEST_P(RecordWithMonthOf, HasTheDayInItsCalendar) {
+    EXPECT_TRUE(HasMonths(GetParam().calendar));
+    EXPECT_EQ(RecordWithMonth(2460370, GetParam().calendar), GetParam().record);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Calendars, RecordWithMonthOf,
+    testing::Values(RecordRow{"CommonEra", CalendarNumber::CE, {2024, 2, 29, CalendarCode::G, 2460370}},
+                    RecordRow{"Julian", CalendarNumber::JC, {2024, 2, 16, CalendarCode::J, 2460370}},
+                    RecordRow{
+                        "LeapWeekMonths", CalendarNumber::LPM, {2024, 3, 4, CalendarCode::Unset, 2460370}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(RecordWithMonth, IsWantedForCalendarsWithMonthsAlone) {
+    for (const CalendarNumber calendar :
+         {CalendarNumber::ISO, CalendarNumber::ORD, CalendarNumber::LPW, CalendarNumber::JDN}) {
+        EXPECT_FALSE(HasMonths(calendar)) << static_cast<int>(calendar);
+    }
+}
+
 TEST(FindDateByMonths, FillsTheWholeRecord) {
     FakeComputeWindow window;
     ComputeState state;

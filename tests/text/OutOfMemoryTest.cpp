@@ -9,6 +9,7 @@
 
 #include "tests/text/TemporaryFolder.h"
 #include "text/ProgramTextFile.h"
+#include "text/Texts.h"
 
 namespace {
 
@@ -61,6 +62,20 @@ TEST(OutOfMemory, IsReportedWhenTheTextsDoNotFit) {
     }
     EXPECT_EQ(result, -8);
     EXPECT_EQ(ReadProgramTexts(bytes).result, 2);
+}
+
+TEST(OutOfMemory, DoesNotLeaveTheProgramWithoutItsOwnTexts) {
+    bool refused = false;
+    {
+        const AllocationLimit limit(100);  // the node of a table takes more
+        try {
+            const Texts texts;
+        } catch (const std::bad_alloc&) {
+            refused = true;
+        }
+    }
+    EXPECT_TRUE(refused);
+    EXPECT_FALSE(Texts().GetProgramText(21).empty());
 }
 
 }  // namespace
