@@ -15,7 +15,7 @@ struct ConvertOptions {
     Reading reading = Reading::Strict;
     std::vector<CalendarNumber> targets;
     bool emptyWhereUnwritable = false;  // a day that a target cannot write gets an empty field, no refusal
-    TextOptions text;
+    TextOptions text{.thousandsSeparator = kNoSeparator, .digitGrouping = {}};
     EraStyle eraStyle = EraStyle::Astronomical;
     bool tag = false;       // behind every date its tag
     bool weekday = false;   // a last field with the English weekday

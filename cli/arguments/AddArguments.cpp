@@ -33,26 +33,17 @@ Examples:
 void DeclareArguments(CLI::App& command, AddArguments& arguments) {
     AddOptions& options = arguments.options;
     ConvertOptions& dates = options.dates;
-    dates.text.thousandsSeparator = kNoSeparator;
-    dates.text.digitGrouping.clear();
     BeginCommand(command, "[OPTIONS] [DATE NUMBER]", kAddFooter);
     AddPairSource(command, arguments.source, {"DATE", "the date"},
                   {"NUMBER", "how many days or months: 90, -90, 1,000"});
-
-    constexpr const char* kAdding = "Dates and counting";
-    AddValue(command, "--from", dates, TakeSource,
-             "how the dates are written: CE, ISO, JC, ORD, LPM, LPW, JDN,\nauto (CE)")
-        ->type_name("NOTATION")
-        ->group(kAdding);
+    AddSourceOfPair(command, dates);
     AddValue(command, "--to", dates, TakeTargets, "how to write the answer (as the dates are written)")
         ->type_name("NOTATION,...|all")
-        ->group(kAdding);
+        ->group(kPairGroup);
     AddChoice(command, "--unit", kUnitChoices, options.unit, "of the number (days)")
         ->type_name("days|months")
-        ->group(kAdding);
-    command.add_flag("--include-first-date", options.includeFirstDate, "count the first date as well")
-        ->group(kAdding);
-    command.add_flag("--weekdays-only", options.weekdaysOnly, "count Monday to Friday only")->group(kAdding);
+        ->group(kPairGroup);
+    AddCountingFlags(command, options.includeFirstDate, options.weekdaysOnly);
     AddAnswerOptions(command, dates);
     AddColumnOptions(command, arguments.source.columns, "the columns of the date and of the number (1,2)");
     AddTextOptions(command, dates.text);

@@ -29,30 +29,20 @@ Examples:
 void DeclareArguments(CLI::App& command, BetweenArguments& arguments) {
     BetweenOptions& options = arguments.options;
     ConvertOptions& first = options.first;
-    first.text.thousandsSeparator = kNoSeparator;
-    first.text.digitGrouping.clear();
     BeginCommand(command, "[OPTIONS] [FIRST SECOND]", kBetweenFooter);
     AddPairSource(command, arguments.source, {"FIRST", "the first date"}, {"SECOND", "the second date"});
-
-    constexpr const char* kCounting = "Dates and counting";
-    AddValue(command, "--from", first, TakeSource,
-             "how the dates are written: CE, ISO, JC, ORD, LPM, LPW, JDN,\nauto (CE)")
-        ->type_name("NOTATION")
-        ->group(kCounting);
+    AddSourceOfPair(command, first);
     AddValue(command, "--second-from", options.second, TakeSource, "how the second one is, if otherwise")
         ->type_name("NOTATION")
-        ->group(kCounting);
-    command.add_flag("--include-first-date", options.includeFirstDate, "count the first date as well")
-        ->group(kCounting);
-    command.add_flag("--weekdays-only", options.weekdaysOnly, "count Monday to Friday only")
-        ->group(kCounting);
+        ->group(kPairGroup);
+    AddCountingFlags(command, options.includeFirstDate, options.weekdaysOnly);
     command
         .add_flag("--breakdown", options.breakdown,
                   "add a column with years, months or weeks, and days, where a\n"
                   "result line of compute has them")
-        ->group(kCounting);
+        ->group(kPairGroup);
     command.add_flag("--csv", first.csv, "columns are comma-separated values, quoted where needed")
-        ->group(kCounting);
+        ->group(kPairGroup);
     AddColumnOptions(command, arguments.source.columns, "the two columns of the dates (1,2)");
     AddTextOptions(command, first.text);
 

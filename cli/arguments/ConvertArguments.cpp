@@ -83,8 +83,6 @@ void SettleScan(const CLI::App& command, ConvertArguments& arguments) {
 
 void DeclareArguments(CLI::App& command, ConvertArguments& arguments, const std::vector<std::string>& words) {
     ConvertOptions& options = arguments.options;
-    options.text.thousandsSeparator = kNoSeparator;
-    options.text.digitGrouping.clear();
     BeginCommand(command, "--from NOTATION --to NOTATION[,NOTATION...] [OPTIONS] [DATE...]", kConvertFooter);
     command.allow_extras();
 
@@ -111,13 +109,9 @@ void DeclareArguments(CLI::App& command, ConvertArguments& arguments, const std:
                   "convert the dates that stand alone in running text,\n"
                   "and pass everything else through")
         ->group(kConversion);
-    const auto takeFile = [](const std::string& name, std::optional<std::string>& file) {
-        file = name;
-        return std::string();
-    };
-    AddValue(command, "--input", arguments.inputFile, takeFile,
-             "read the lines of a file; \"-\" is the standard input,\n"
-             "which is read anyway when no date is given")
+    AddText(command, "--input", arguments.inputFile,
+            "read the lines of a file; \"-\" is the standard input,\n"
+            "which is read anyway when no date is given")
         ->type_name("FILE")
         ->group(kConversion);
 

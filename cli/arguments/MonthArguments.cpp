@@ -20,11 +20,7 @@ Examples:
 
 void DeclareArguments(CLI::App& command, MonthArguments& arguments) {
     BeginCommand(command, "[OPTIONS] [YEAR-MONTH]", kMonthFooter);
-    command
-        .add_option_function<std::string>(
-            "YEAR-MONTH", [&arguments](const std::string& text) { arguments.yearMonth = text; },
-            "the month, 2024-09 or -44-3")
-        ->type_name("");
+    AddText(command, "YEAR-MONTH", arguments.yearMonth, "the month, 2024-09 or -44-3")->type_name("");
     AddChoice(command, "--calendar", kMonthCalendarChoices, arguments.calendar,
               "Common Era or Julian Calendar (CE)")
         ->type_name("CE|JC");

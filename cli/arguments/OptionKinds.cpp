@@ -35,6 +35,12 @@ bool Mentions(const std::vector<std::string>& words, std::initializer_list<std::
     });
 }
 
+CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::string>& text,
+                     const char* description) {
+    const auto set = [&text](const std::string& given) { text = given; };
+    return command.add_option_function<std::string>(name, set, description);
+}
+
 CLI::Option* AddToday(CLI::App& command, std::optional<LocalDate>& today) {
     return AddValue(command, "--today", today, TakeToday, "take this day for today")->type_name("YYYY-MM-DD");
 }

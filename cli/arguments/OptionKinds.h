@@ -31,6 +31,10 @@ CLI::Option* AddValue(CLI::App& command, const char* name, Value& value, Take ta
         });
 }
 
+/// An option, or a positional argument, that takes any text.
+CLI::Option* AddText(CLI::App& command, const char* name, std::optional<std::string>& text,
+                     const char* description);
+
 /// An option whose value is chosen by name; letters may have any case.
 /// choices  must outlive the command
 template <typename Value, std::size_t count>

@@ -1,17 +1,14 @@
 #include "cli/arguments/PairKinds.h"
 
 #include "cli/arguments/ColumnKinds.h"
+#include "cli/arguments/NotationKinds.h"
+#include "cli/arguments/OptionKinds.h"
 
 namespace calvoro {
 
 void AddPairSource(CLI::App& command, PairSource& source, const PairName& first, const PairName& second) {
-    const auto set = [](std::optional<std::string>& to) {
-        return [&to](const std::string& text) { to = text; };
-    };
-    CLI::Option* const one =
-        command.add_option_function<std::string>(first.name, set(source.first), first.description);
-    CLI::Option* const other =
-        command.add_option_function<std::string>(second.name, set(source.second), second.description);
+    CLI::Option* const one = AddText(command, first.name, source.first, first.description);
+    CLI::Option* const other = AddText(command, second.name, source.second, second.description);
     one->type_name("")->needs(other);
     other->type_name("");
     command
@@ -20,6 +17,19 @@ void AddPairSource(CLI::App& command, PairSource& source, const PairName& first,
                     "input, which is read anyway without arguments")
         ->type_name("FILE")
         ->excludes(one);
+}
+
+void AddSourceOfPair(CLI::App& command, ConvertOptions& dates) {
+    AddValue(command, "--from", dates, TakeSource,
+             "how the dates are written: CE, ISO, JC, ORD, LPM, LPW, JDN,\nauto (CE)")
+        ->type_name("NOTATION")
+        ->group(kPairGroup);
+}
+
+void AddCountingFlags(CLI::App& command, bool& includeFirstDate, bool& weekdaysOnly) {
+    command.add_flag("--include-first-date", includeFirstDate, "count the first date as well")
+        ->group(kPairGroup);
+    command.add_flag("--weekdays-only", weekdaysOnly, "count Monday to Friday only")->group(kPairGroup);
 }
 
 void SettlePairSource(const CLI::App& command, PairSource& source, const ConvertOptions& answers,

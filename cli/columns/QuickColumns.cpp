@@ -33,11 +33,6 @@ char* Copy(const char* from, const char* end, const char* blockEnd, char* to) {
     return to + (end - from);
 }
 
-bool AreDistinct(std::vector<std::size_t> fields) {
-    std::sort(fields.begin(), fields.end());
-    return std::adjacent_find(fields.begin(), fields.end()) == fields.end();
-}
-
 }  // namespace
 
 QuickColumns::QuickColumns(const ColumnOptions& columns, const TextOptions& options,
@@ -45,7 +40,7 @@ QuickColumns::QuickColumns(const ColumnOptions& columns, const TextOptions& opti
     : delimiter_(columns.delimiter),
       csv_(columns.csv),
       append_(columns.append),
-      isUsable_(!MayStandInADate(columns.delimiter, options) && AreDistinct(fields)),
+      isUsable_(!MayStandInADate(columns.delimiter, options)),
       fields_(fields) {}
 
 std::size_t QuickColumns::ConvertLines(std::string_view block, const DayReader& reader,
