@@ -10,6 +10,7 @@
 
 namespace calvoro {
 
+/// The number of a notation.
 enum class CalendarNumber : std::int16_t {
     CE = 0,   // Common Era
     JC = 1,   // Julian Calendar
@@ -23,6 +24,7 @@ enum class CalendarNumber : std::int16_t {
     ARC = 9,  // internal, without conversions
 };
 
+/// How many numbers there are.
 inline constexpr std::size_t kCalendarNumberCount = 10;
 
 /// The notations that are offered to the user, in the fixed order in which all of them are listed. Every

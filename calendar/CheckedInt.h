@@ -14,6 +14,7 @@ namespace calvoro {
 /// it is caught at the edge of a computation (StaysIn32Bits), nowhere below.
 class ArithmeticOverflow : public std::exception {
 public:
+    /// One sentence in English.
     const char* what() const noexcept override { return "a result leaves the range of 32-bit numbers"; }
 };
 
@@ -35,9 +36,11 @@ constexpr std::int16_t NarrowToInt16(std::int64_t value) {
 class CheckedInt {
 public:
     constexpr CheckedInt() = default;
+    /// The number itself.
     constexpr CheckedInt(std::int32_t value)
         : value_(value) {}  // NOLINT: implicit, so that formulas read plainly
 
+    /// The number as the language has it.
     constexpr std::int32_t Value() const { return value_; }
 
     constexpr CheckedInt& operator+=(CheckedInt other) { return *this = *this + other; }

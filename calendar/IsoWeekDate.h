@@ -9,6 +9,7 @@
 
 namespace calvoro {
 
+/// A week date and its day number.
 struct IsoWeekDate {
     std::int32_t year = 0;  // ISO week-numbering year
     std::int32_t week = 0;  // 1 to 53

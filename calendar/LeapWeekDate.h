@@ -24,6 +24,7 @@ struct LeapWeekDate {
 
 inline constexpr std::int32_t kLeapWeekEpoch = 1'721'419;  // week 1, weekday 1 of year 1
 
+// What the checks of a leap-week date answer, and leave in its status.
 inline constexpr std::int16_t kLeapWeekOk = 0;
 inline constexpr std::int16_t kLeapWeekBadMonth = -2;
 inline constexpr std::int16_t kLeapWeekBadDay = -3;

@@ -10,8 +10,10 @@
 
 namespace calvoro {
 
+/// What the middle box counts.
 enum class DifferenceUnit : std::int16_t { Days = 0, Months = 1 };
 
+/// What is chosen when a click begins; the first values are those of a new installation.
 struct ComputeOptions {
     TextOptions text;
     CalendarNumber firstCalendar = CalendarNumber::CE;

@@ -11,6 +11,7 @@
 
 namespace calvoro {
 
+/// Both dates as they were read, their distance in days, and their texts with tags for the result line.
 struct ComputeState {
     DateRecord FirstDateRecord;
     DateRecord SecondDateRecord;

@@ -10,8 +10,10 @@
 
 namespace calvoro {
 
+/// The three boxes, from top to bottom.
 enum class InputBox { FirstDate, Difference, SecondDate };
 
+/// What a computation asks of the window, and does to it.
 class ComputeWindow {
 public:
     virtual ~ComputeWindow() = default;

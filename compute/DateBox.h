@@ -11,6 +11,7 @@
 
 namespace calvoro {
 
+/// One date box: its calendar among the options, its record and echo in the state, its messages.
 struct DateBox {
     InputBox box;
     CalendarNumber ComputeOptions::*calendar;
@@ -21,6 +22,7 @@ struct DateBox {
     ComputeMessage outOfRange;
 };
 
+/// The upper box.
 inline constexpr DateBox kFirstDateBox = {
     .box = InputBox::FirstDate,
     .calendar = &ComputeOptions::firstCalendar,
@@ -31,6 +33,7 @@ inline constexpr DateBox kFirstDateBox = {
     .outOfRange = ComputeMessage::FirstDateOutOfRange,
 };
 
+/// The lower box.
 inline constexpr DateBox kSecondDateBox = {
     .box = InputBox::SecondDate,
     .calendar = &ComputeOptions::secondCalendar,

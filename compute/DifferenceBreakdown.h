@@ -16,6 +16,7 @@ struct DifferenceParts {
     std::int16_t weeks = 0;
     std::int16_t days = 0;
 
+    /// Whether any part is not zero.
     bool AreShown() const { return years != 0 || months != 0 || weeks != 0 || days != 0; }
 };
 

@@ -26,8 +26,10 @@ namespace calvoro {
 struct Notation {
     CalendarNumber number;
     std::string_view tag;
+    // Each calls the reader or writer of its notation.
     ParseStatus (*read)(std::string_view text, const TextOptions& options, DateRecord& record,
                         std::string* canonical);
+    // Days within the limits of the notation.
     std::string (*write)(std::int32_t jdn, const TextOptions& options);
 };
 

@@ -10,6 +10,7 @@
 
 namespace calvoro {
 
+/// Whether a character is one of 0 to 9.
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }

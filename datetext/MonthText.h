@@ -14,8 +14,10 @@ namespace calvoro {
 
 using WeekdayWords = std::array<std::string_view, 7>;  // Sunday first
 
+/// The weekday of the first column.
 enum class WeekStart { Sunday, Monday };
 
+/// A month as it is drawn.
 struct MonthGrid {
     std::string text;                // heading and week lines
     std::int16_t weekRows = 0;       // week lines drawn

@@ -22,6 +22,7 @@ std::string PrintableText(std::string_view text);
 /// kMaxQuotedLength bytes.
 std::string QuotedText(std::string_view text);
 
+/// Bytes of a text that are quoted at most.
 inline constexpr std::size_t kMaxQuotedLength = 100;
 
 }  // namespace calvoro

@@ -9,6 +9,7 @@
 
 namespace calvoro {
 
+// What str_to_date answers where callers tell the cases apart.
 inline constexpr std::int32_t kStrToDateOk = 0;
 inline constexpr std::int32_t kStrToDateYearOutOfRange = -5;
 

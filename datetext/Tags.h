@@ -38,6 +38,7 @@ constexpr std::string_view TagText(CalendarNumber number) {
     return kTagTable[static_cast<std::size_t>(number)].tag;
 }
 
+/// Whether each tag of the table stands at the place of its number.
 constexpr bool TagsStandInTheOrderOfTheirNumbers() {
     for (std::size_t row = 0; row < kTagTable.size(); ++row) {
         if (static_cast<std::size_t>(kTagTable[row].number) != row || kTagTable[row].tag.empty())

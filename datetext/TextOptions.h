@@ -14,6 +14,7 @@ enum class DateFormat : std::int16_t { MDY = 0, DMY = 1, YMD = 2 };
 /// "No thousands separator".
 inline constexpr char kNoSeparator = '\0';
 
+/// The choices that readers and writers share.
 struct TextOptions {
     DateFormat dateFormat = DateFormat::YMD;
     char dateSeparator = '-';         // '-', '/' or '.'

@@ -7,6 +7,7 @@
 
 namespace calvoro {
 
+/// The small letter of a capital one; any other character as it is.
 constexpr char LowerCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }

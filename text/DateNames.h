@@ -11,6 +11,7 @@
 
 namespace calvoro {
 
+/// Which of a month's two names.
 enum class MonthNameForm { Full = 0, Abbreviation = 1 };
 
 /// WeekdayNames[language][weekday].

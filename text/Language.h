@@ -9,6 +9,7 @@ namespace calvoro {
 /// Number of a language, as the settings file holds it.
 using LanguageNumber = std::int16_t;
 
+// The languages that texts are stored in.
 inline constexpr LanguageNumber LanguageEnglish = 0;
 inline constexpr LanguageNumber LanguageGerman = 1;
 inline constexpr LanguageNumber LanguageSpanish = 2;

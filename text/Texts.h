@@ -13,6 +13,7 @@
 
 namespace calvoro {
 
+/// Texts in the two languages of a program. A copy has languages of its own and shares the numbered texts.
 class Texts {
 public:
     LanguageNumber InterfaceLanguage = LanguageEnglish;  // what the user chose: captions and messages
@@ -21,6 +22,7 @@ public:
 
     /// With the numbered texts that are built into the program.
     Texts() : Texts(LanguageEnglish, LanguageEnglish) {}
+    /// With those texts and these languages.
     Texts(LanguageNumber interfaceLanguage, LanguageNumber textLanguage);
 
     /// With the numbered texts of a file.

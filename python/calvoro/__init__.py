@@ -72,7 +72,7 @@ def convert(values: _Any, source: str, target: str, *, errors: str = "raise", le
     >>> convert("2024-02-3O", "CE", "ISO")
     Traceback (most recent call last):
         ...
-    calvoro._columns.DateError: not a CE date: unexpected 'O' at column 10
+    calvoro.DateError: not a CE date: unexpected 'O' at column 10
     >>> import numpy
     >>> convert(numpy.array(["2024-02-29", "2024-03-01"]), "CE", "ORD")
     array(['2024-060', '2024-061'], dtype='<U8')
@@ -87,8 +87,12 @@ def day_number(values: _Any, source: str = "CE", *, errors: str = "raise", lenie
                digit_grouping: str = "", hyphen: bool = True) -> _Any:
     """The day numbers (days, civil, day 0 = 1 January -4712 of the Julian Calendar) of dates.
 
-    values, errors ...  as for convert
-    returns             whole numbers: an int, a list, an array of int32 of the same shape, a Series
+    values, source       as for convert
+    errors, lenient      as for convert
+    date_format, date_separator, thousands_separator, digit_grouping, hyphen
+                         how the dates are written, as for convert
+    returns              whole numbers: an int, a list, an array of int32 of the same shape, a Series
+    raises               as convert
 
     >>> day_number("2024-02-29")
     2460370
@@ -104,10 +108,14 @@ def fields(values: _Any, source: str = "JDN", target: str = "CE", *, errors: str
            thousands_separator: str = "", digit_grouping: str = "", hyphen: bool = True) -> "tuple[_Any, ...]":
     """The numbers that dates are made of in a notation.
 
-    values, source, errors ...  as for convert
-    target                      CE, JC, LPM: year, month, day; ISO, LPW: year, week, weekday (1 Monday to 7
-                                Sunday); ORD: year, day of the year (any year); JDN: day number
-    returns                     a tuple of as many ints, lists, arrays of int32 or Series
+    values, source   as for convert
+    target           CE, JC, LPM: year, month, day; ISO, LPW: year, week, weekday (1 Monday to 7 Sunday);
+                     ORD: year, day of the year (any year); JDN: day number
+    errors, lenient  as for convert
+    date_format, date_separator, thousands_separator, digit_grouping, hyphen
+                     how the dates are written, as for convert
+    returns          a tuple of as many ints, lists, arrays of int32 or Series
+    raises           as convert
 
     >>> fields(2460370)
     (2024, 2, 29)
@@ -129,11 +137,16 @@ def between(first: _Any, second: _Any, source: str = "CE", *, second_source: "st
             thousands_separator: str = "", digit_grouping: str = "", hyphen: bool = True) -> _Any:
     """The number of days from the first dates to the second ones; negative when these lie before.
 
-    first, second   as values of convert; a single one goes with each of a column
-    second_source   notation of the second dates, when it is another one
-    include_first   count the first date as well
-    count_weekends  False: count Monday to Friday only
-    returns         whole numbers (days): an int, a list, an array of int32, a Series
+    first, second    as values of convert; a single one goes with each of a column
+    source           tag of the dates
+    second_source    tag of the second dates, when it is another one
+    include_first    count the first date as well
+    count_weekends   False: count Monday to Friday only
+    errors, lenient  as for convert
+    date_format, date_separator, thousands_separator, digit_grouping, hyphen
+                     how the dates are written, as for convert
+    returns          whole numbers (days): an int, a list, an array of int32, a Series
+    raises           as convert; ValueError for columns of different lengths
 
     >>> between("2021-03-04", "2021-03-14")
     10
@@ -155,14 +168,19 @@ def add(values: _Any, amount: _Any, source: str = "CE", *, unit: str = "days", t
         digit_grouping: str = "", hyphen: bool = True) -> _Any:
     """The dates that lie a number of days or months after others; before, when it is negative.
 
-    values          as values of convert
-    amount          an int, or a list, array or Series of as many as there are dates
-    unit            "days" or "months"; months can be added to CE, JC and LPM dates, and a day beyond the end
-                    of a month becomes its last day
-    target          notation of the answer, when it is another one
-    include_first   count the given date as well (days)
-    count_weekends  False: count Monday to Friday only (days)
-    returns         texts, in kind
+    values, source   as for convert
+    amount           an int, or a list, array or Series of as many as there are dates; a single date goes with
+                     each of a column of amounts
+    unit             "days" or "months"; months can be added to CE, JC and LPM dates, and a day beyond the end
+                     of a month becomes its last day
+    target           tag of the answer, when it is another one
+    include_first    count the given date as well (days)
+    count_weekends   False: count Monday to Friday only (days)
+    errors, lenient  as for convert
+    date_format, date_separator, thousands_separator, digit_grouping, hyphen
+                     how the dates are written, as for convert
+    returns          texts, in kind
+    raises           as convert; DateError too for a date found beyond those that can be computed
 
     >>> add("2021-03-04", 10)
     '2021-03-14'
@@ -194,6 +212,7 @@ def month(year: int, month: int, calendar: str = "CE", *, first_day: str = "sund
     calendar   "CE" or "JC"
     first_day  "sunday" or "monday"
     language   "en" or "de"
+    returns    the lines of a str, each ended by a line feed
     raises     ValueError, OverflowError for a year that cannot be shown
 
     >>> print(month(2024, 2, first_day="monday"))  # doctest: +NORMALIZE_WHITESPACE
@@ -215,6 +234,7 @@ def month(year: int, month: int, calendar: str = "CE", *, first_day: str = "sund
 def compute(**request: _Any) -> "dict[str, _Any]":
     """One click on Compute: what stands in the boxes and is chosen, as ``calvoro-cli compute --json`` takes it.
 
+    request                          keyword arguments, these and others:
     first, difference, second        texts of the boxes; which of them are filled decides the task
     first_calendar, second_calendar  tags
     ...                              all others: see ``calvoro-cli compute --help``

@@ -19,6 +19,8 @@ class DateError(ValueError):
     value  what was refused
     """
 
+    __module__ = "calvoro"  # where it is imported from, in messages and in pickles
+
     def __init__(self, reason: str, value: Any = None, index: "int | None" = None) -> None:
         super().__init__(reason if index is None else f"row {index}: {reason}")
         self.value = value

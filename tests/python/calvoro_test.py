@@ -3,6 +3,7 @@
 import doctest
 import inspect
 import pathlib
+import pydoc
 import sys
 import threading
 import time
@@ -210,7 +211,19 @@ class Module(unittest.TestCase):
             if inspect.isfunction(thing):
                 self.assertTrue(thing.__doc__, name)
                 hints = inspect.get_annotations(thing)
-                self.assertEqual(set(hints), set(inspect.signature(thing).parameters) | {"return"}, name)
+                parameters = inspect.signature(thing).parameters
+                self.assertEqual(set(hints), set(parameters) | {"return"}, name)
+                for word in [*parameters, "returns", "raises"]:
+                    # At the start of a line, alone or in a list of names.
+                    self.assertRegex(thing.__doc__, rf"(?m)^    (\w+, )*{word}(,|$|  )", (name, word))
+
+    def test_the_help_describes_every_public_name(self):
+        text = pydoc.plain(pydoc.render_doc(calvoro))
+        for name in calvoro.__all__:
+            self.assertIn(name, text)
+        self.assertIn("Dates in seven notations", text)
+        self.assertIn("class DateError", text)
+        self.assertEqual(f"{DateError.__module__}.{DateError.__qualname__}", "calvoro.DateError")
 
     def test_the_interpreter_goes_on_meanwhile(self):
         days = np.arange(1_000_000, 3_000_000, dtype=np.int32)
