@@ -22,6 +22,12 @@ if(CALVORO_TEST_PROPERTIES)
   find_package(rapidcheck REQUIRED)
 endif()
 
+# Without optimisation and with every branch counted a test takes its time.
+set(CALVORO_TEST_PATIENCE 1)
+if(CALVORO_COVERAGE)
+  set(CALVORO_TEST_PATIENCE 5)
+endif()
+
 #   calvoro_test(calendar_test SOURCES EuroDateTest.cpp ... MAY_USE calendar [LIBRARIES ...] [TIMEOUT s])
 #
 # POSIX marks a program whose tests need what Windows has not: signals, forks, descriptors made by hand.
@@ -33,6 +39,7 @@ function(calvoro_test name)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
+  math(EXPR ARG_TIMEOUT "${CALVORO_TEST_PATIENCE} * ${ARG_TIMEOUT}")
   add_executable(${name} ${ARG_SOURCES})
   if(CALVORO_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Under the sanitizers GCC 12 takes the states of <regex> for uninitialised.
@@ -61,6 +68,7 @@ function(calvoro_window_test name)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 300)
   endif()
+  math(EXPR ARG_TIMEOUT "${CALVORO_TEST_PATIENCE} * ${ARG_TIMEOUT}")
   add_executable(${name} ${ARG_SOURCES})
   set_target_properties(${name} PROPERTIES AUTOMOC ON)
   target_link_libraries(${name} PRIVATE calvoro_options calvoro_qt_options Qt6::Test Qt6::Widgets ${ARG_LIBRARIES})

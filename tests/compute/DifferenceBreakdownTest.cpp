@@ -114,6 +114,14 @@ TEST(DifferenceBreakdown, IsEmptyWhenEveryPartIsZero) {
     EXPECT_EQ(DifferenceBreakdown(state), "");
 }
 
+TEST(DifferenceParts, AreShownUnlessAllOfThemAreZero) {
+    EXPECT_FALSE(DifferenceParts{}.AreShown());
+    for (const DifferenceParts& parts : {DifferenceParts{.years = 1}, DifferenceParts{.months = -1},
+                                         DifferenceParts{.weeks = 2}, DifferenceParts{.days = -6}}) {
+        EXPECT_TRUE(parts.AreShown()) << PartsText(parts, Texts());
+    }
+}
+
 TEST(DifferenceBreakdown, LeavesTheRecordsAsTheyAre) {
     ComputeState state;
     state.options.firstCalendar = state.options.secondCalendar = kORD;
