@@ -3,34 +3,228 @@
 #include <algorithm>
 #include <cstring>
 
+#include "cli/columns/ColumnEnd.h"
+
 namespace calvoro {
 namespace {
+
+// A copy of what stands between dates is one step of as many bytes, unless there are more.
+constexpr std::size_t kStep = DayReader::kLineRoom;
+static_assert(ColumnEnd::kRoom <= DayReader::kLineRoom);
+
+using ColumnKind = QuickColumns::ColumnKind;
+
+// What stays the same for all lines of a block.
+struct Work {
+    const DayReader& reader;
+    const RecordWriter& writer;
+    char delimiter;
+    const char* last;        // where a date may begin, with the room to read one
+    const char* end;         // of the block
+    const char* outputLast;  // where the output still has the room for a line's answers
+};
+
+// How far the output has come. What stands between two dates is copied with the second of them, often over
+// the end of a line.
+struct Progress {
+    const char* copied;  // in the block
+    char* to;
+};
 
 const char* Find(const char* from, const char* end, char character) {
     return static_cast<const char*>(std::memchr(from, character, static_cast<std::size_t>(end - from)));
 }
 
 // The next quote; many lines are searched at once, as most have none.
-// end      of the line, which is searched in any case
+// lineEnd  which is reached in any case
 // returns  where the search ended when there is none
-const char* FindQuote(const char* from, const char* end, const char* blockEnd) {
+const char* FindQuote(const char* from, const char* lineEnd, const char* blockEnd) {
     constexpr std::ptrdiff_t kAtOnce = 2048;
-    const char* const last = blockEnd - from > kAtOnce ? std::max(end, from + kAtOnce) : blockEnd;
+    const char* const last = blockEnd - from > kAtOnce ? std::max(lineEnd, from + kAtOnce) : blockEnd;
     const char* const quote = Find(from, last, '"');
     return quote == nullptr ? last : quote;
 }
 
-// Copies what stands between dates. Most of it is short, and where there is room one fixed step copies it.
-// blockEnd  what may be read ends here
-// to        with room for kStep bytes at least, as the room of a record is larger than any record
-char* Copy(const char* from, const char* end, const char* blockEnd, char* to) {
-    constexpr std::ptrdiff_t kStep = 32;
-    if (end - from <= kStep && blockEnd - from >= kStep) {
-        std::memcpy(to, from, kStep);
+bool HasRoomUpTo(const char* end, const Work& work, const Progress& done) {
+    return end - done.copied <= work.outputLast - done.to;
+}
+
+// Copies what has not been copied before a place in the block.
+// end  HasRoomUpTo must hold, and kStep bytes must follow what has been copied
+void CopyUpTo(const char* end, Progress& done) {
+    const auto length = static_cast<std::size_t>(end - done.copied);
+    if (length <= kStep) {
+        std::memcpy(done.to, done.copied, kStep);
     } else {
-        std::memcpy(to, from, static_cast<std::size_t>(end - from));
+        std::memcpy(done.to, done.copied, length);
     }
-    return to + (end - from);
+    done.to += length;
+    done.copied = end;
+}
+
+// Dates are converted on one of three roads: in place, among short columns or among columns of any length, or
+// appended to their line. Each takes a line, of which `done` says that nothing has been copied yet, and
+// returns the LF that ends it. It returns null, and `done` means nothing, when the block does not hold the
+// whole line, when a field is not there or is no plain date, and when the output lacks the room.
+
+// Short columns are passed over in a line whose end is not known yet, as it often follows a date.
+class ShortColumns {
+public:
+    explicit ShortColumns(const Work& work) : work_(work), columnEnd_(work.delimiter) {}
+
+    bool BeginLine(const char* /*line*/) const { return true; }
+
+    // returns  where the next column begins; null when there is none, or when the column is long
+    const char* Pass(const char* column) {
+        const char* const end = columnEnd_.Find(column);
+        metLong_ = end == nullptr;
+        return metLong_ || *end == '\n' ? nullptr : end + 1;
+    }
+
+    const char* EndLine(const char* from) const { return Find(from, work_.end, '\n'); }
+
+    // Whether the column that could not be passed over was a long one.
+    bool MetLong() const { return metLong_; }
+
+private:
+    const Work& work_;
+    ColumnEnd columnEnd_;
+    bool metLong_ = false;
+};
+
+// For columns of any length the line's end is looked for first.
+class LongColumns {
+public:
+    explicit LongColumns(const Work& work) : work_(work) {}
+
+    bool BeginLine(const char* line) {
+        lineFeed_ = Find(line, work_.end, '\n');
+        return lineFeed_ != nullptr;
+    }
+
+    const char* Pass(const char* column) const {
+        const char* const end = Find(column, lineFeed_, work_.delimiter);
+        return end == nullptr ? nullptr : end + 1;
+    }
+
+    const char* EndLine(const char* /*from*/) const { return lineFeed_; }
+
+private:
+    const Work& work_;
+    const char* lineFeed_ = nullptr;
+};
+
+template <typename Columns>
+class InPlace {
+public:
+    InPlace(const Work& work, const ColumnKind* kinds, Columns& columns)
+        : work_(work), kinds_(kinds), columns_(columns) {}
+
+    const char* operator()(const char* line, Progress& done) const {
+        if (!columns_.BeginLine(line)) return nullptr;
+        const char* at = line;
+        for (const ColumnKind* kind = kinds_; at <= work_.last; ++kind) {
+            if (*kind == ColumnKind::Other) {
+                at = columns_.Pass(at);
+                if (at == nullptr) break;
+                continue;
+            }
+            std::int32_t jdn = 0;
+            const std::size_t length = work_.reader.ReadPlain(at, jdn);
+            if (length == 0 || !work_.writer.CanWrite(jdn) || !HasRoomUpTo(at, work_, done)) break;
+            CopyUpTo(at, done);
+            done.to = work_.writer.Write(jdn, done.to);
+            done.copied = at + length;
+            if (*kind == ColumnKind::LastDate) return EndLine(done);
+            if (*done.copied != work_.delimiter) break;
+            at = done.copied + 1;
+        }
+        return nullptr;
+    }
+
+private:
+    // The end of a line that all dates of have been converted.
+    const char* EndLine(const Progress& done) const {
+        const char* const behind = done.copied;
+        if (*behind == '\n') return behind;
+        if (behind[0] == '\r' && behind[1] == '\n') return behind + 1;
+        if (*behind != work_.delimiter) return nullptr;
+        const char* const lineFeed = columns_.EndLine(behind);
+        return lineFeed != nullptr && HasRoomUpTo(lineFeed + 1, work_, done) ? lineFeed : nullptr;
+    }
+
+    const Work& work_;
+    const ColumnKind* kinds_;
+    Columns& columns_;
+};
+
+class Appending {
+public:
+    Appending(const Work& work, const std::vector<std::size_t>& fields) : work_(work), fields_(fields) {}
+
+    const char* operator()(const char* line, Progress& done) const {
+        const char* const lineFeed = Find(line, work_.end, '\n');
+        if (lineFeed == nullptr || !HasRoomUpTo(lineFeed + 1, work_, done)) return nullptr;
+        const char* const end = lineFeed > line && lineFeed[-1] == '\r' ? lineFeed - 1 : lineFeed;
+        CopyUpTo(end, done);
+        for (const std::size_t field : fields_) {
+            const char* const at = FindField(line, end, field);
+            if (at == nullptr || at > work_.last) return nullptr;
+            std::int32_t jdn = 0;
+            const std::size_t length = work_.reader.ReadPlain(at, jdn);
+            if (length == 0 || !work_.writer.CanWrite(jdn)) return nullptr;
+            if (at + length != end && at[length] != work_.delimiter) return nullptr;
+            *done.to = work_.delimiter;
+            done.to = work_.writer.Write(jdn, done.to + 1);
+        }
+        return lineFeed;
+    }
+
+private:
+    // Passes over some columns of the line.
+    const char* FindField(const char* from, const char* end, std::size_t columns) const {
+        for (; columns > 0; --columns) {
+            const char* const found = Find(from, end, work_.delimiter);
+            if (found == nullptr) return nullptr;
+            from = found + 1;
+        }
+        return from;
+    }
+
+    const Work& work_;
+    const std::vector<std::size_t>& fields_;
+};
+
+// Converts lines as long as one road can.
+// unquoted  where it ends that no quote stands in what comes first; the block's end when quotes do not matter
+// lines     is moved on by the number of lines
+// returns   behind the last line
+template <typename Road>
+const char* Convert(const char* at, const Work& work, const char* unquoted, const Road& road, Progress& done,
+                    std::uint64_t& lines) {
+    std::uint64_t converted = 0;
+    while (at <= work.last) {
+        Progress further = done;
+        const char* const lineFeed = road(at, further);
+        if (lineFeed == nullptr) break;
+        // Quoted fields are for others to find.
+        if (unquoted < lineFeed) unquoted = FindQuote(unquoted, lineFeed, work.end);
+        if (unquoted < lineFeed) break;
+        done = further;
+        at = lineFeed + 1;
+        ++converted;
+    }
+    lines += converted;
+    return at;
+}
+
+// The columns of a line up to the last one with a date.
+// fields  in ascending order
+std::vector<ColumnKind> KindsOf(const std::vector<std::size_t>& fields) {
+    std::vector<ColumnKind> kinds(fields.back() + 1, ColumnKind::Other);
+    for (const std::size_t field : fields) kinds[field] = ColumnKind::Date;
+    kinds.back() = ColumnKind::LastDate;
+    return kinds;
 }
 
 }  // namespace
@@ -41,100 +235,39 @@ QuickColumns::QuickColumns(const ColumnOptions& columns, const TextOptions& opti
       csv_(columns.csv),
       append_(columns.append),
       isUsable_(!MayStandInADate(columns.delimiter, options)),
-      fields_(fields) {}
+      fields_(fields) {
+    if (!append_) kinds_ = KindsOf(fields);
+}
 
 std::size_t QuickColumns::ConvertLines(std::string_view block, const DayReader& reader,
                                        const RecordWriter& writer, OutputStream& output,
                                        std::uint64_t& lines) const {
-    if (!isUsable_) return 0;
-    const std::size_t answersRoom = fields_.size() * (writer.Room() + 1);
-    const char* at = block.data();
-    const char* const blockEnd = at + block.size();
-    char* begin = output.Room(0);  // of what is free in the output
-    std::size_t room = output.Free();
-    Progress done{at, begin};
-    const auto handOver = [&] {
-        if (done.copied != at) done.to = Copy(done.copied, at, blockEnd, done.to);
-        done.copied = at;
-        output.Commit(static_cast<std::size_t>(done.to - begin));
+    const std::size_t answersRoom = (append_ ? fields_.size() : 1) * (writer.Room() + 1) + kStep;
+    if (!isUsable_ || block.size() < DayReader::kLineRoom || answersRoom > OutputStream::kBlockSize) return 0;
+    const char* const begin = block.data();
+    const char* const end = begin + block.size();
+    char* const to = output.Room(answersRoom);
+    const Work work{
+        reader, writer, delimiter_, end - DayReader::kLineRoom, end, to + (output.Free() - answersRoom)};
+    Progress done{begin, to};
+    const char* at = begin;
+    const auto convert = [&](const auto& road) {
+        at = Convert(at, work, csv_ ? at : end, road, done, lines);
     };
-    const char* unquoted = csv_ ? at : blockEnd;  // where it ends that no quote stands in what comes next
-    while (const char* const lineFeed = Find(at, blockEnd, '\n')) {
-        const char* const end = lineFeed > at && lineFeed[-1] == '\r' ? lineFeed - 1 : lineFeed;
-        const Line line{at, end, blockEnd};
-        // Quoted fields are for others to find.
-        if (unquoted < end) unquoted = FindQuote(unquoted, end, blockEnd);
-        if (unquoted < end) break;
-        const std::size_t needed = static_cast<std::size_t>(lineFeed + 1 - done.copied) + answersRoom;
-        if (needed > room - static_cast<std::size_t>(done.to - begin)) {
-            if (needed > OutputStream::kBlockSize) break;
-            handOver();
-            begin = done.to = output.Room(needed);
-            room = output.Free();
+    if (append_) {
+        convert(Appending(work, fields_));
+    } else {
+        ShortColumns columns(work);
+        convert(InPlace(work, kinds_.data(), columns));
+        if (columns.MetLong()) {
+            LongColumns longColumns(work);
+            convert(InPlace(work, kinds_.data(), longColumns));
         }
-        Progress further = done;
-        const bool isConverted = append_ ? ConvertAppending(line, reader, writer, further)
-                                         : ConvertInPlace(line, reader, writer, further);
-        if (!isConverted) break;
-        done = further;
-        at = lineFeed + 1;
-        ++lines;
     }
-    handOver();
-    return static_cast<std::size_t>(at - block.data());
-}
-
-// What follows is called for every line, from one place each.
-
-// Each returns false when one of the fields is not there or is no plain date.
-inline bool QuickColumns::ConvertInPlace(const Line& line, const DayReader& reader,
-                                         const RecordWriter& writer, Progress& done) const {
-    const char* at = line.begin;
-    std::size_t column = 0;
-    for (const std::size_t field : fields_) {
-        at = FindField(line, at, field - column);
-        column = field;
-        std::int32_t jdn = 0;
-        const std::size_t length = at == nullptr ? 0 : ReadField(line, at, reader, jdn);
-        if (length == 0 || !writer.CanWrite(jdn)) return false;
-        done.to = writer.Write(jdn, Copy(done.copied, at, line.blockEnd, done.to));
-        done.copied = at + length;
-    }
-    return true;
-}
-
-inline bool QuickColumns::ConvertAppending(const Line& line, const DayReader& reader,
-                                           const RecordWriter& writer, Progress& done) const {
-    done.to = Copy(done.copied, line.end, line.blockEnd, done.to);
-    done.copied = line.end;
-    for (const std::size_t field : fields_) {
-        const char* const at = FindField(line, line.begin, field);
-        std::int32_t jdn = 0;
-        const std::size_t length = at == nullptr ? 0 : ReadField(line, at, reader, jdn);
-        if (length == 0 || !writer.CanWrite(jdn)) return false;
-        *done.to = delimiter_;
-        done.to = writer.Write(jdn, done.to + 1);
-    }
-    return true;
-}
-
-// Passes over some delimiters.
-inline const char* QuickColumns::FindField(const Line& line, const char* from, std::size_t delimiters) const {
-    for (; delimiters > 0; --delimiters) {
-        const char* const found = Find(from, line.end, delimiter_);
-        if (found == nullptr) return nullptr;
-        from = found + 1;
-    }
-    return from;
-}
-
-// The length of the field, when it is nothing but a plain date.
-inline std::size_t QuickColumns::ReadField(const Line& line, const char* field, const DayReader& reader,
-                                           std::int32_t& jdn) const {
-    if (static_cast<std::size_t>(line.blockEnd - field) < DayReader::kLineRoom) return 0;
-    const std::size_t length = reader.ReadPlain(field, jdn);
-    const char* const end = field + length;
-    return length > 0 && (end == line.end || *end == delimiter_) ? length : 0;
+    const auto rest = static_cast<std::size_t>(at - done.copied);
+    std::memcpy(done.to, done.copied, rest);
+    output.Commit(static_cast<std::size_t>(done.to - to) + rest);
+    return static_cast<std::size_t>(at - begin);
 }
 
 }  // namespace calvoro

@@ -17,6 +17,9 @@ namespace calvoro {
 
 class QuickColumns {
 public:
+    /// What a column holds.
+    enum class ColumnKind : std::uint8_t { Other, Date, LastDate };
+
     /// options  how dates are written, which tells whether a delimiter can stand in one
     /// fields   of the columns to convert, from 0; in the order of the line unless answers are appended
     QuickColumns(const ColumnOptions& columns, const TextOptions& options,
@@ -29,33 +32,12 @@ public:
                              OutputStream& output, std::uint64_t& lines) const;
 
 private:
-    // A line in its block, whose bytes may be read to the block's end.
-    struct Line {
-        const char* begin;
-        const char* end;  // of the text
-        const char* blockEnd;
-    };
-
-    // How far the output has come. What stands between two dates is copied with the second of them, often
-    // over the end of a line.
-    struct Progress {
-        const char* copied;  // in the block
-        char* to;
-    };
-
-    bool ConvertInPlace(const Line& line, const DayReader& reader, const RecordWriter& writer,
-                        Progress& done) const;
-    bool ConvertAppending(const Line& line, const DayReader& reader, const RecordWriter& writer,
-                          Progress& done) const;
-    const char* FindField(const Line& line, const char* from, std::size_t delimiters) const;
-    std::size_t ReadField(const Line& line, const char* field, const DayReader& reader,
-                          std::int32_t& jdn) const;
-
     char delimiter_;
     bool csv_;
     bool append_;
     bool isUsable_;
     std::vector<std::size_t> fields_;
+    std::vector<ColumnKind> kinds_;  // up to the last field, when they are converted in place
 };
 
 }  // namespace calvoro
