@@ -3,6 +3,7 @@
 #include "calendar/DayNumber.h"
 #include "datetext/AnyNotation.h"
 #include "datetext/DayNumberText.h"
+#include "datetext/Utf8.h"
 #include "tests/fuzz/FuzzInput.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -14,7 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     ParseStatus status = ParseStatus::NotValid;
     const std::int32_t number = ParseJdnText(text, status);
-    Require(status == ParseStatus::Valid ? IsWithinDayLimits(number) && text.size() <= 11 : number == 0);
+    Require(status == ParseStatus::Valid ? IsWithinDayLimits(number) && CountCharacters(text) <= 11
+                                         : number == 0);
 
     // Under a date separator the same number, or none.
     DateRecord record;
