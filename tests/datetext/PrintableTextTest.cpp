@@ -75,6 +75,39 @@ TEST(CanBeSeen, DoesNotHoldForWhatHidesOrTurnsText) {
     }
 }
 
+TEST(CanBeSeen, DoesNotHoldForTheLastTwoNumbersOfEachPlane) {
+    for (std::uint32_t plane = 0; plane <= 0x10; ++plane) {
+        const std::uint32_t end = (plane + 1) << 16;
+        EXPECT_FALSE(CanBeSeen(end - 2)) << std::hex << end;
+        EXPECT_FALSE(CanBeSeen(end - 1)) << std::hex << end;
+        // Behind the eleventh there are planes of what is ignored, and of nothing.
+        EXPECT_EQ(CanBeSeen(end - 3), plane <= 0xB) << std::hex << end;
+        if (plane < 0xB) {
+            EXPECT_TRUE(CanBeSeen(end)) << std::hex << end;
+        }
+    }
+}
+
+TEST(CanBeSeen, ChangesWhereTheBlocksOfTheUnseenBeginAndEnd) {
+    struct Block {
+        std::uint32_t first;
+        std::uint32_t last;
+    };
+    for (const Block block : {Block{0x7F, 0xA0},  {0xAD, 0xAD},       {0x34F, 0x34F},     {0x600, 0x605},
+                              {0x61C, 0x61C},     {0x6DD, 0x6DD},     {0x70F, 0x70F},     {0x890, 0x891},
+                              {0x8E2, 0x8E2},     {0x115F, 0x1160},   {0x1680, 0x1680},   {0x17B4, 0x17B5},
+                              {0x180B, 0x180F},   {0x2000, 0x200F},   {0x2028, 0x202F},   {0x205F, 0x206F},
+                              {0x2800, 0x2800},   {0x3000, 0x3000},   {0x3164, 0x3164},   {0xE000, 0xF8FF},
+                              {0xFDD0, 0xFDEF},   {0xFE00, 0xFE0F},   {0xFEFF, 0xFEFF},   {0xFFA0, 0xFFA0},
+                              {0xFFF0, 0xFFFB},   {0x110BD, 0x110BD}, {0x110CD, 0x110CD}, {0x13430, 0x1343F},
+                              {0x1BCA0, 0x1BCA3}, {0x1D173, 0x1D17A}}) {
+        EXPECT_TRUE(CanBeSeen(block.first - 1)) << std::hex << block.first;
+        EXPECT_FALSE(CanBeSeen(block.first)) << std::hex << block.first;
+        EXPECT_FALSE(CanBeSeen(block.last)) << std::hex << block.last;
+        EXPECT_TRUE(CanBeSeen(block.last + 1)) << std::hex << block.last;
+    }
+}
+
 TEST(CanBeSeen, DoesNotHoldForNumbersOfNoCharacter) {
     EXPECT_FALSE(CanBeSeen(0x110000));
     EXPECT_FALSE(CanBeSeen(0xFFFFFFFF));

@@ -3,7 +3,9 @@
 import json
 import re
 import shlex
+import shutil
 import subprocess
+import threading
 from pathlib import Path
 
 import layers
@@ -21,6 +23,7 @@ class Room:
         self.place = Path(place).resolve()
         self.tree = self.place / "tree"
         self.build = self.place / "build"
+        self.lock = threading.Lock()
 
     def prepare(self, tests, jobs):
         """Brings the copy up to date and builds the programs of some tests."""
@@ -33,6 +36,21 @@ class Room:
         subprocess.run(["cmake", "--build", self.build, "-j", str(jobs), "--target", *targets], check=True)
         self._read_commands(tests)
         self._read_dependencies()
+        self.compared = {}
+        shutil.rmtree(self.place / "compared", ignore_errors=True)
+        (self.place / "compared").mkdir()
+
+    def object_to_compare(self, name):
+        """The bytes of an object as it is without a mutant, compiled by the very command that a mutant is: a
+        launcher in front of the compiler may have changed the one that was built."""
+        with self.lock:
+            if name not in self.compared:
+                to = self.place / "compared" / f"{len(self.compared)}.o"
+                words = list(self.compile[name])
+                words[words.index("-o") + 1] = str(to)
+                subprocess.run(words, cwd=self.build, check=True, capture_output=True)
+                self.compared[name] = to.read_bytes()
+            return self.compared[name]
 
     def leave_out(self, test):
         """Has a test do without being run."""

@@ -116,7 +116,7 @@ class Trial:
         words[1:1] = ["-ivfsoverlay", str(overlay), "-Werror=return-type"]
         done = subprocess.run(words, cwd=self.room.build, capture_output=True, text=True, check=False)
         if done.returncode == 0:
-            return (None if to.read_bytes() == (self.room.build / name).read_bytes() else to), None
+            return (None if to.read_bytes() == self.room.object_to_compare(name) else to), None
         errors = [line for line in done.stderr.splitlines() if re.search(r"\berror: ", line)]
         asserted = bool(errors) and all("static_assert" in line for line in errors)
         return None, KILLED_BY_COMPILER if asserted else NOT_A_MUTANT
