@@ -28,13 +28,14 @@ if(CALVORO_COVERAGE)
   set(CALVORO_TEST_PATIENCE 5)
 endif()
 
-#   calvoro_test(calendar_test SOURCES EuroDateTest.cpp ... MAY_USE calendar [LIBRARIES ...] [TIMEOUT s])
+#   calvoro_test(calendar_test SOURCES EuroDateTest.cpp ... MAY_USE calendar [POSIX ...] [LIBRARIES ...] [TIMEOUT s])
 #
-# POSIX marks a program whose tests need what Windows has not: signals, forks, descriptors made by hand.
+# POSIX lists sources whose tests need what Windows has not: signals, FIFOs, limits of a process, permissions of
+# the owner and of others, files without a name, pipes and terminals made by hand.
 function(calvoro_test name)
-  cmake_parse_arguments(ARG "POSIX" "TIMEOUT" "SOURCES;MAY_USE;LIBRARIES" ${ARGN})
-  if(ARG_POSIX AND WIN32)
-    return()
+  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;POSIX;MAY_USE;LIBRARIES" ${ARGN})
+  if(NOT WIN32)
+    list(APPEND ARG_SOURCES ${ARG_POSIX})
   endif()
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)

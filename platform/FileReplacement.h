@@ -11,7 +11,7 @@ namespace calvoro {
 /// Whoever opens the file at any moment finds the old content or the new one and never a part: the pieces go
 /// to a file of another name in the same folder, which is flushed to the disk and renamed at the end, and
 /// deleted when it comes to no end. A symbolic link is followed. An old file keeps its permissions; a new one
-/// gets those that the user's files have.
+/// gets those that the user's files have. On Windows both get those that their folder hands down.
 ///
 /// Only an ordinary file that may be written is replaced. Anything else of its name, such as a folder, a
 /// device or a pipe, is left alone and is an error.

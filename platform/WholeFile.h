@@ -20,7 +20,8 @@ using NewContent = std::function<std::string(const std::optional<std::string>& c
 /// finds the old content or the new one and never a part: the content is written to PATH.new, flushed to
 /// the disk and renamed. Programs that do so to files of one folder take turns, and what `content` is given
 /// is what the file holds during the turn. A symbolic link is followed. A new file is for the user alone; an
-/// old one keeps its permissions and, as far as the system lets it, its owner.
+/// old one keeps its permissions and, as far as the system lets it, its owner. On Windows both get those that
+/// their folder hands down.
 ///
 /// Only an ordinary file that may be written is replaced. Anything else of its name or of PATH.new, such as
 /// a folder, a device or a pipe, is left alone and never waited for.

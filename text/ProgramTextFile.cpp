@@ -9,6 +9,10 @@
 #include <system_error>
 #include <utility>
 
+#if defined(_WIN32)
+#include <filesystem>
+#endif
+
 namespace calvoro {
 namespace {
 
@@ -47,14 +51,34 @@ bool ReadNumber(std::string_view field, std::int32_t& number) {
     return result.ec == std::errc() && result.ptr == end;
 }
 
+// Sets the result of reading when a file cannot be opened.
+// path  UTF-8
+std::FILE* OpenFile(const char* path, std::int32_t& failure) {
+    failure = kCannotOpen;
+#if defined(_WIN32)
+    // The C library takes names in the code page of the system, and opens no folders.
+    try {
+        const std::string_view name(path);
+        const std::filesystem::path wide(std::u8string(name.begin(), name.end()));
+        if (std::filesystem::is_directory(wide)) failure = kCannotRead;
+        return ::_wfopen(wide.c_str(), L"rb");
+    } catch (const std::system_error&) {  // not UTF-8, so that no file has this name
+        return nullptr;
+    }
+#else
+    return std::fopen(path, "rb");
+#endif
+}
+
 struct CloseFile {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
 // 0, or the code of the failure.
 std::int32_t ReadFile(const char* path, std::string& bytes) {
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path, "rb"));
-    if (!file) return kCannotOpen;
+    std::int32_t failure = 0;
+    const std::unique_ptr<std::FILE, CloseFile> file(OpenFile(path, failure));
+    if (!file) return failure;
     std::array<char, 4096> block{};
     std::size_t count = 0;
     while (bytes.size() <= kMaxFileBytes &&

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstddef>
 
+#include "platform/windows/LinkTarget.h"
 #include "platform/windows/WideText.h"
 
 namespace calvoro {
@@ -39,7 +40,8 @@ int WhyNotReplaceable(const std::wstring& path) {
 
 class FileReplacement::File {
 public:
-    explicit File(const std::string& path) : target_(WideText(path)), error_(WhyNotReplaceable(target_)) {
+    explicit File(const std::string& path)
+        : target_(WithLinksResolved(WideText(path))), error_(WhyNotReplaceable(target_)) {
         // A name that nothing has: what stands beside the file may be the user's.
         for (int attempt = 0; error_ == 0 && handle_ == INVALID_HANDLE_VALUE; ++attempt) {
             written_ = target_ + L"." + std::to_wstring(::GetTickCount64() + static_cast<ULONGLONG>(attempt));
@@ -80,6 +82,7 @@ public:
         }
         ::CloseHandle(handle_);
         handle_ = INVALID_HANDLE_VALUE;
+        // One step, unlike ReplaceFile, in which the name is free for a moment.
         if (::MoveFileExW(written_.c_str(), target_.c_str(), kHow) == 0) {
             error_ = ErrorNumberOf(::GetLastError());
             ::DeleteFileW(written_.c_str());

@@ -25,6 +25,12 @@ HANDLE HandleOf(int descriptor) {
     return handle < 0 ? INVALID_HANDLE_VALUE : reinterpret_cast<HANDLE>(handle);
 }
 
+// Opening one is refused as if it were a matter of rights.
+bool IsFolder(const std::wstring& name) {
+    const DWORD attributes = ::GetFileAttributesW(name.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 }  // namespace
 
 std::vector<std::string> PrepareStreams(int /*argc*/, const char* const* /*argv*/) {
@@ -45,8 +51,12 @@ std::vector<std::string> PrepareStreams(int /*argc*/, const char* const* /*argv*
 }
 
 int OpenForReading(const std::string& path, int& error) {
-    const int descriptor = ::_wopen(WideText(path).c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
-    if (descriptor < 0) error = errno;
+    const std::wstring name = WideText(path);
+    const int descriptor = ::_wopen(name.c_str(), _O_RDONLY | _O_BINARY | _O_NOINHERIT);
+    if (descriptor < 0) {
+        const int reason = errno;
+        error = IsFolder(name) ? EISDIR : reason;
+    }
     return descriptor;
 }
 
@@ -66,7 +76,9 @@ bool WouldWait(int descriptor) {
     DWORD waiting = 0;
     switch (::GetFileType(handle)) {
         case FILE_TYPE_PIPE:
-            return ::PeekNamedPipe(handle, nullptr, 0, nullptr, &waiting, nullptr) != 0 && waiting == 0;
+            if (::PeekNamedPipe(handle, nullptr, 0, nullptr, &waiting, nullptr) != 0) return waiting == 0;
+            // The end of the input is there to be read. Of a pipe that cannot be looked into nobody knows.
+            return ::GetLastError() != ERROR_BROKEN_PIPE;
         case FILE_TYPE_CHAR: return IsTerminal(descriptor);
         default: return false;
     }

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "platform/windows/LinkTarget.h"
 #include "platform/windows/WideText.h"
 
 namespace calvoro {
@@ -99,7 +100,7 @@ std::optional<std::string> ReadWholeFile(const std::string& path) {
 }
 
 bool ReplaceWholeFile(const std::string& path, const NewContent& content) {
-    const std::wstring target = WideText(path);
+    const std::wstring target = WithLinksResolved(WideText(path));
     const std::wstring written = target + L".new";
     const Turn turn(target);
     if (!MayBeReplaced(target) || !MayBeReplaced(written)) return false;

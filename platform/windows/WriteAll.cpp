@@ -19,8 +19,11 @@ int WriteAll(int descriptor, std::string_view bytes) {
         if (written == 0) return EIO;
         if (written < 0) {
             // A pipe whose reader went away is EINVAL to the C library.
+            const int error = errno;
             const DWORD reason = ::GetLastError();
-            return reason == ERROR_NO_DATA || reason == ERROR_BROKEN_PIPE ? EPIPE : errno;
+            const bool isAlone =
+                reason == ERROR_NO_DATA || reason == ERROR_BROKEN_PIPE || reason == ERROR_PIPE_NOT_CONNECTED;
+            return isAlone ? EPIPE : error;
         }
         bytes.remove_prefix(static_cast<std::size_t>(written));
     }

@@ -216,7 +216,7 @@ TEST(DrawMonth, TellsTheFirstDayShown) {
 TEST(DrawMonth, HeadsItsColumnsWithThreeLettersOfTheWeekdays) {
     const auto heading = [](const WeekdayWords& words, WeekStart weekStart) {
         const std::string text = DrawMonth(2024, 9, CalendarCode::G, weekStart, words).text;
-        return text.substr(0, text.find('\r'));
+        return text.substr(0, text.find("\r\n"));
     };
     EXPECT_EQ(heading(kEnglish, WeekStart::Sunday), " Sun  Mon  Tue  Wed  Thu  Fri  Sat ");
     EXPECT_EQ(heading(kGerman, WeekStart::Monday), " Mon  Die  Mit  Don  Fre  Sam  Son ");

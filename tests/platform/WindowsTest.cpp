@@ -1,7 +1,8 @@
-// The Windows side of platform/, run where Windows programs run.
+// Texts, streams, clock and shell of Windows, run where Windows programs run.
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <string>
 
@@ -19,6 +20,10 @@ std::string InTemporaryFolder(const std::string& name) {
     return (std::filesystem::temp_directory_path() / name).string();
 }
 
+bool Write(const std::string& path, const std::string& content) {
+    return ReplaceWholeFile(path, [&](const auto& /*current*/) { return content; });
+}
+
 TEST(WideText, IsTheSameTextInUtf16) {
     EXPECT_EQ(WideText("M\xC3\xA4rz \xF0\x9F\x93\x85"), L"M\u00E4rz \xD83D\xDCC5");
     EXPECT_EQ(NarrowText(L"M\u00E4rz \xD83D\xDCC5"), "M\xC3\xA4rz \xF0\x9F\x93\x85");
@@ -31,25 +36,9 @@ TEST(WideText, ReplacesWhatIsNotValid) {
     EXPECT_EQ(NarrowText(L"a\xD83D"), "a\xEF\xBF\xBD");
 }
 
-TEST(WholeFile, IsReplacedAndReadByteForByte) {
-    const std::string path = InTemporaryFolder("calvoro-M\xC3\xA4rz.txt");
-    const std::string first("one\r\ntwo\n\x1A\0three", 16);
-    ASSERT_TRUE(ReplaceWholeFile(path, first));
-    EXPECT_EQ(ReadWholeFile(path), first);
-    ASSERT_TRUE(ReplaceWholeFile(path, "short"));
-    EXPECT_EQ(ReadWholeFile(path), "short");
-    EXPECT_FALSE(std::filesystem::exists(path + ".new"));
-}
-
-TEST(WholeFile, IsNotMadeInAFolderThatIsMissing) {
-    const std::string path = InTemporaryFolder("calvoro-missing/settings.txt");
-    EXPECT_FALSE(ReplaceWholeFile(path, "text"));
-    EXPECT_EQ(ReadWholeFile(path), std::nullopt);
-}
-
 TEST(Streams, ReadAnOrdinaryFileInBytes) {
     const std::string path = InTemporaryFolder("calvoro-bytes.txt");
-    ASSERT_TRUE(ReplaceWholeFile(path, "a\r\nb\x1A"));
+    ASSERT_TRUE(Write(path, "a\r\nb\x1A"));
     int error = 0;
     const int descriptor = OpenForReading(path, error);
     ASSERT_GE(descriptor, 0);
@@ -64,6 +53,12 @@ TEST(Streams, ReadAnOrdinaryFileInBytes) {
     CloseDescriptor(descriptor);
 }
 
+TEST(Streams, TellWhatCannotBeReadInBytes) {
+    int error = 0;
+    EXPECT_LT(OpenForReading(std::filesystem::temp_directory_path().string(), error), 0);
+    EXPECT_EQ(error, EISDIR);
+}
+
 TEST(Streams, TellWhyAFileCannotBeOpened) {
     int error = 0;
     EXPECT_LT(OpenForReading(InTemporaryFolder("calvoro-nosuch.txt"), error), 0);
@@ -73,7 +68,7 @@ TEST(Streams, TellWhyAFileCannotBeOpened) {
 TEST(WriteAll, TellsWhyNothingIsWritten) {
     int error = 0;
     const std::string path = InTemporaryFolder("calvoro-read-only.txt");
-    ASSERT_TRUE(ReplaceWholeFile(path, "text"));
+    ASSERT_TRUE(Write(path, "text"));
     const int descriptor = OpenForReading(path, error);
     ASSERT_GE(descriptor, 0);
     EXPECT_EQ(WriteAll(descriptor, "x"), EBADF);

@@ -59,6 +59,16 @@ TEST_P(ProgramTextFileTest, ReportsWhatTheFileHolds) {
     EXPECT_EQ(read.texts.has_value(), GetParam().result > 0);
 }
 
+TEST(ProgramTextFile, IsFoundByANameOutsideAscii) {
+    const TemporaryFolder folder;
+    const std::string path = folder.Write("M\xC3\xA4rz \xE6\x97\xA5.dat", "1\tone\n");
+    EXPECT_EQ(lt(path.c_str(), 0), 1);
+}
+
+TEST(ProgramTextFile, IsNotFoundByANameThatIsNoText) {
+    EXPECT_EQ(lt("\xFF\xC3", 0), -1);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Files, ProgramTextFileTest,
     testing::Values(
