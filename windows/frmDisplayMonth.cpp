@@ -53,7 +53,7 @@ frmDisplayMonth::frmDisplayMonth(const Platform& platform, Texts& texts, QWidget
 void frmDisplayMonth::ShowMonth(std::string_view year, std::int32_t month, CalendarNumber calendar) {
     ChooseMonth(month - 1);
     ui_.txbYear->setText(ToQt(year));
-    Choose(*(calendar == CalendarNumber::JC ? ui_.optJulian : ui_.optCommonEra));
+    ChooseCalendar(calendar);
 
     if (!isVisible()) {
         if (!testAttribute(Qt::WA_Resized)) resize(ui_.FirstSize());
@@ -61,8 +61,7 @@ void frmDisplayMonth::ShowMonth(std::string_view year, std::int32_t month, Calen
         MoveKeptOnScreen(*this, mainWindow_.frameGeometry().topLeft() + offset, FrameSize(mainWindow_));
     }
     BringToFront(*this);
-    UpdateIsoButton();
-    HideIsoWhen(!IsoPossible());
+    FollowIsoPossible();
     DisplayMonth();
 }
 
@@ -91,7 +90,7 @@ CalendarNumber frmDisplayMonth::GetCalendar() const {
 }
 
 void frmDisplayMonth::SetCalendar(CalendarNumber calendar) {
-    Choose(*(calendar == CalendarNumber::JC ? ui_.optJulian : ui_.optCommonEra));
+    ChooseCalendar(calendar);
     OnOptionsSet();
 }
 
@@ -120,34 +119,16 @@ void frmDisplayMonth::ConnectControls() {
     connect(ui_.cboMonths, &QComboBox::currentIndexChanged, this, &frmDisplayMonth::DisplayMonth);
     connect(ui_.txbYear, &QLineEdit::returnPressed, this, &frmDisplayMonth::DisplayMonth);
 
-    // Only the option that becomes chosen acts.
-    const auto whenChosen = [this](QRadioButton* option, std::function<void()> action) {
-        connect(option, &QRadioButton::toggled, this, [action = std::move(action)](bool chosen) {
-            if (chosen) action();
+    for (QRadioButton* option : {ui_.optCommonEra, ui_.optJulian, ui_.optSunday, ui_.optMonday}) {
+        connect(option, &QRadioButton::toggled, this, [this, option](bool chosen) {
+            // Only the option that becomes chosen acts.
+            if (!chosen) return;
+            DisplayMonth();
+            // Deliberate: drawn twice; the second drawing repeats the first, with a bad year its message too.
+            if (option == ui_.optMonday) DisplayMonth();
+            FollowIsoPossible();
         });
-    };
-    whenChosen(ui_.optCommonEra, [this] {
-        DisplayMonth();
-        HideIsoWhen(ui_.optSunday->isChecked());
-        UpdateIsoButton();
-    });
-    whenChosen(ui_.optJulian, [this] {
-        DisplayMonth();
-        HideIsoWhen(true);
-        UpdateIsoButton();
-    });
-    whenChosen(ui_.optSunday, [this] {
-        DisplayMonth();
-        HideIsoWhen(true);
-        UpdateIsoButton();
-    });
-    whenChosen(ui_.optMonday, [this] {
-        // Deliberate: drawn twice; the second drawing repeats the first, with a bad year its message too.
-        DisplayMonth();
-        DisplayMonth();
-        HideIsoWhen(ui_.optJulian->isChecked());
-        UpdateIsoButton();
-    });
+    }
 
     for (int index : {0, 1}) {
         connect(ui_.cmdDisplayNextMonth[static_cast<std::size_t>(index)], &QPushButton::clicked, this,
@@ -165,8 +146,12 @@ void frmDisplayMonth::ConnectControls() {
     };
     onKey(Qt::Key_PageUp, [this] { OnDisplayNextMonth(1); });
     onKey(Qt::Key_PageDown, [this] { OnDisplayNextMonth(0); });
-    onKey(Qt::CTRL | Qt::Key_PageUp, [this] { StepYear(-1); });
-    onKey(Qt::CTRL | Qt::Key_PageDown, [this] { StepYear(1); });
+    onKey(Qt::CTRL | Qt::Key_PageUp, [this] {
+        if (ChangeYear(-1)) DisplayMonth();
+    });
+    onKey(Qt::CTRL | Qt::Key_PageDown, [this] {
+        if (ChangeYear(1)) DisplayMonth();
+    });
 }
 
 void frmDisplayMonth::OnActivated() {
@@ -214,10 +199,13 @@ bool frmDisplayMonth::Draw() {
 
 // "September 2024 (Common Era Calendar)"
 std::string frmDisplayMonth::Heading() const {
-    const TextId calendar = ui_.optJulian->isChecked() ? TextId::JulianCalendar : TextId::CommonEraCalendar;
     std::string heading(ShownMonthName(texts_.InterfaceLanguage, ui_.cboMonths->currentIndex()));
     heading.append(" ").append(TrimBlanks(ui_.txbYear->text().toStdString()));
-    return heading.append(" (").append(texts_.Shown(calendar)).append(")");
+    return heading.append(" (").append(CalendarName()).append(")");
+}
+
+std::string_view frmDisplayMonth::CalendarName() const {
+    return texts_.Shown(ui_.optJulian->isChecked() ? TextId::JulianCalendar : TextId::CommonEraCalendar);
 }
 
 // Once for each month that comes up, however often it is drawn.
@@ -265,30 +253,26 @@ void frmDisplayMonth::OnShowHideISO() {
     if (isoShown_) ShowIsoDates();
 }
 
-void frmDisplayMonth::HideIsoWhen(bool condition) {
-    if (isoShown_ && condition) OnShowHideISO();
+void frmDisplayMonth::HideIso() {
+    if (isoShown_) OnShowHideISO();
+}
+
+// Shows the ISO dates of Common Era weeks from Monday only.
+void frmDisplayMonth::FollowIsoPossible() {
+    if (!IsoPossible()) HideIso();
+    UpdateIsoButton();
 }
 
 // What options that were set, not clicked, need to agree with what is shown.
 void frmDisplayMonth::OnOptionsSet() {
     if (isVisible()) Draw();
-    HideIsoWhen(!IsoPossible());
-    UpdateIsoButton();
+    FollowIsoPossible();
 }
 
 void frmDisplayMonth::OnDisplayNextMonth(int index) {
-    TrimYear();
-    if (ui_.txbYear->text().isEmpty()) return;
     const int step = index == 0 ? 1 : -1;
     const int month = ui_.cboMonths->currentIndex() + step;
-    if (month < 0 || month > 11) {
-        const std::optional<std::string> year = SteppedYear(ui_.txbYear->text().toStdString(), step);
-        if (!year) {
-            PleaseSpecifyYear();
-            return;
-        }
-        ui_.txbYear->setText(ToQt(*year));
-    }
+    if (!ChangeYear(month < 0 || month > 11 ? step : 0)) return;
     ChooseMonth((month + 12) % 12);
     DisplayMonth();
 }
@@ -299,20 +283,26 @@ void frmDisplayMonth::ChooseMonth(int index) {
     ui_.cboMonths->setCurrentIndex(index);
 }
 
-void frmDisplayMonth::TrimYear() {
-    ui_.txbYear->setText(ToQt(TrimBlanks(ui_.txbYear->text().toStdString())));
+// Sets the box for the year without drawing.
+// years    0 leaves it as it is, but for blanks at its ends
+// returns  false when it is empty or, after a message, holds no year to step from
+bool frmDisplayMonth::ChangeYear(int years) {
+    const std::string text = ui_.txbYear->text().toStdString();
+    const std::string_view trimmed = TrimBlanks(text);
+    ui_.txbYear->setText(ToQt(trimmed));
+    if (trimmed.empty()) return false;
+    if (years == 0) return true;
+    const std::optional<std::string> year = SteppedYear(trimmed, years);
+    if (year) {
+        ui_.txbYear->setText(ToQt(*year));
+    } else {
+        PleaseSpecifyYear();
+    }
+    return year.has_value();
 }
 
-void frmDisplayMonth::StepYear(int years) {
-    TrimYear();
-    if (ui_.txbYear->text().isEmpty()) return;
-    const std::optional<std::string> year = SteppedYear(ui_.txbYear->text().toStdString(), years);
-    if (!year) {
-        PleaseSpecifyYear();
-        return;
-    }
-    ui_.txbYear->setText(ToQt(*year));
-    DisplayMonth();
+void frmDisplayMonth::ChooseCalendar(CalendarNumber calendar) {
+    Choose(*(calendar == CalendarNumber::JC ? ui_.optJulian : ui_.optCommonEra));
 }
 
 void frmDisplayMonth::PleaseSpecifyYear() {
@@ -321,10 +311,9 @@ void frmDisplayMonth::PleaseSpecifyYear() {
 }
 
 void frmDisplayMonth::OnCopyToClipboard() {
-    const TextId calendar = ui_.optJulian->isChecked() ? TextId::JulianCalendar : TextId::CommonEraCalendar;
     const std::string text = CopiedMonthText(
         ShownMonthName(texts_.InterfaceLanguage, ui_.cboMonths->currentIndex()),
-        ui_.txbYear->text().toStdString(), texts_.Shown(calendar), CrLfText(*ui_.txbMonth),
+        ui_.txbYear->text().toStdString(), CalendarName(), CrLfText(*ui_.txbMonth),
         texts_.GetProgramText(kIsoHeadingText), isoShown_ ? CrLfText(*ui_.txbISODates) : std::string());
     clipboard_.Clear();
     clipboard_.SetText(text);
@@ -333,7 +322,7 @@ void frmDisplayMonth::OnCopyToClipboard() {
 
 void frmDisplayMonth::OnClose() {
     announced_.clear();
-    HideIsoWhen(true);
+    HideIso();
     if (mainWindow_.isVisible()) mainWindow_.activateWindow();
 }
 

@@ -63,18 +63,20 @@ private:
 
     bool Draw();
     std::string Heading() const;
+    std::string_view CalendarName() const;
     void AnnounceHeading();
     void ShowIsoDates();
     void UpdateIsoButton();
     void OnShowHideISO();
-    void HideIsoWhen(bool condition);
+    void HideIso();
+    void FollowIsoPossible();
     void OnOptionsSet();
     bool IsoPossible() const;
 
     void OnDisplayNextMonth(int index);
     void ChooseMonth(int index);
-    void TrimYear();
-    void StepYear(int years);
+    bool ChangeYear(int years);
+    void ChooseCalendar(CalendarNumber calendar);
     void PleaseSpecifyYear();
     void OnCopyToClipboard();
     void OnClose();

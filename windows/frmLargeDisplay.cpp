@@ -305,7 +305,7 @@ void frmLargeDisplay::ArrangeControls() {
     const int text = TwipsToPixels(kTextMargin);
     const int beside = TwipsToPixels(kButtonMargin) - text;
     auto* buttons = new QHBoxLayout;
-    buttons->setContentsMargins(beside, 0, TwipsToPixels(kButtonMargin) - text, 0);
+    buttons->setContentsMargins(beside, 0, beside, 0);
     buttons->addWidget(cmdCopyToClipboard);
     buttons->addStretch();
     buttons->addWidget(cmdClose);
