@@ -61,13 +61,11 @@ void frmList::ConnectControls() {
     });
     connect(runner_, &JobRunner::Ended, this, &frmList::OnEnded);
     connect(this, &frmList::RearrangeWanted, this, &frmList::Rearrange, Qt::QueuedConnection);
-    connect(runner_, &JobRunner::OutOfMemory, this, [this] { Tell(std::string(Words().outOfMemory)); });
+    connect(runner_, &JobRunner::OutOfMemory, this, [this] { Tell(Words().outOfMemory); });
 
     connect(ui_.optLinesAreFirst, &QRadioButton::toggled, this, [this](bool first) {
         contents_->SetSide(first ? ListSide::FirstDates : ListSide::SecondDates);
-        ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
-        Rearrange();
-        ShowState();
+        ShowAnew();
     });
     connect(ui_.tblList, &ListTable::ColumnChosen, this, &frmList::OnColumnChosen);
     connect(ui_.tblList->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -127,7 +125,7 @@ void frmList::Show(const GivenList& given, ListSide side) {
     try {
         BeginLoading(std::make_shared<LinesBuilder>(given.text.toStdString(), false), {}, side);
     } catch (const std::bad_alloc&) {
-        Tell(std::string(Words().outOfMemory));
+        Tell(Words().outOfMemory);
     }
 }
 
@@ -138,7 +136,7 @@ void frmList::ShowClipboard(ListSide side) {
         return;
     }
     BringUp();
-    Tell(std::string(Words().noText));
+    Tell(Words().noText);
 }
 
 void frmList::ShowChosenFile(ListSide side) {
@@ -149,6 +147,11 @@ void frmList::ShowChosenFile(ListSide side) {
 
 void frmList::Refresh() {
     contents_->Refresh();
+    ShowAnew();
+}
+
+// What stands beside the lines is another.
+void frmList::ShowAnew() {
     ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
     Rearrange();
     ShowState();
@@ -188,17 +191,16 @@ void frmList::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
 }
 
-// returns  false after telling that something else is still going on
-bool frmList::Begin(std::shared_ptr<SlicedJob> job, std::function<void()> done, Doing doing) {
+// Does nothing but to tell it when something else is still going on that must not be dropped.
+void frmList::Begin(std::shared_ptr<SlicedJob> job, std::function<void()> done, Doing doing) {
     if (doing_ == Doing::LoadingOrWriting) {
-        Tell(std::string(Words().busy));
-        return false;
+        Tell(Words().busy);
+        return;
     }
     note_.clear();
     runner_->Stop();
     doing_ = doing;
     runner_->Start(std::move(job), std::move(done));
-    return true;
 }
 
 void frmList::OnEnded() {
@@ -223,11 +225,8 @@ void frmList::BeginLoading(std::shared_ptr<Load> load, const std::string& path, 
 }
 
 void frmList::ShowLines(std::shared_ptr<const ListLines> lines, ListSide side) {
-    const QSignalBlocker noRefusalsOnly(ui_.chkRefusalsOnly);
-    const QSignalBlocker noByDay(ui_.chkByDay);
+    UncheckArrangement();
     const QSignalBlocker noSide(ui_.optLinesAreFirst);
-    ui_.chkRefusalsOnly->setChecked(false);
-    ui_.chkByDay->setChecked(false);
     (side == ListSide::FirstDates ? ui_.optLinesAreFirst : ui_.optLinesAreSecond)->setChecked(true);
 
     contents_->Show(std::move(lines), side);
@@ -256,13 +255,11 @@ void frmList::Rearrange() {
     }
 }
 
-// As after unchecking what asks for another arrangement.
-void frmList::ShowPlainly() {
+void frmList::UncheckArrangement() {
     for (QCheckBox* box : {ui_.chkRefusalsOnly, ui_.chkByDay}) {
         const QSignalBlocker blocker(box);
         box->setChecked(false);
     }
-    Rearrange();
 }
 
 void frmList::ShowOrder(RowOrder order) {
@@ -286,9 +283,7 @@ void frmList::OnColumnChosen(int column) {
     const auto chosen = static_cast<std::size_t>(column);
     if (column >= model.GivenColumns() || chosen == model.Sheet().dateColumn) return;
     contents_->SetDateColumn(chosen);
-    ui_.SetHeads(contents_->Model(), contents_->Side(), texts_);
-    Rearrange();
-    ShowState();
+    ShowAnew();
 }
 
 void frmList::OnNextRefusal() {
@@ -301,7 +296,7 @@ void frmList::OnNextRefusal() {
         if (search->Found()) {
             GoTo(*search->Found());
         } else {
-            Note(std::string(Words().noRefusal));
+            Note(Words().noRefusal);
         }
     };
     Begin(search, done, Doing::Searching);
@@ -315,7 +310,7 @@ void frmList::OnCopy(std::vector<PlaceRange> ranges) {
                                                    form, kMostOnClipboard);
     const auto done = [this, copy] {
         if (copy->IsTooLong()) {
-            Tell(std::string(Words().tooMuchForClipboard));
+            Tell(Words().tooMuchForClipboard);
             return;
         }
         platform_.clipboard.Clear();
@@ -350,8 +345,11 @@ void frmList::OnStop() {
     if (doing_ == Doing::Nothing) return;
     const bool wasArranging = doing_ == Doing::Arranging;
     runner_->Stop();
-    if (wasArranging) ShowPlainly();
-    Note(std::string(Words().stopped));
+    if (wasArranging) {
+        UncheckArrangement();
+        Rearrange();
+    }
+    Note(Words().stopped);
 }
 
 void frmList::OnOtherPart(bool later) {
@@ -385,13 +383,13 @@ std::string frmList::DoneText(std::string_view what, std::uint64_t rows) const {
     return std::string(what) + ": " + Counted(rows, Words().line, Words().lines, Words());
 }
 
-void frmList::Note(const std::string& note) {
+void frmList::Note(std::string_view note) {
     note_ = note;
     ShowState();
     announcer_->Announce(note);
 }
 
-void frmList::Tell(const std::string& message) {
+void frmList::Tell(std::string_view message) {
     platform_.boxes.Show(message, Words().title, MessageIcon::Exclamation);
 }
 

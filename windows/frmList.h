@@ -69,12 +69,13 @@ private:
     void AddKeys();
     const ListWords& Words() const { return WordsOfList(texts_.InterfaceLanguage); }
 
-    bool Begin(std::shared_ptr<SlicedJob> job, std::function<void()> done, Doing doing);
+    void Begin(std::shared_ptr<SlicedJob> job, std::function<void()> done, Doing doing);
     template <typename Load>
     void BeginLoading(std::shared_ptr<Load> load, const std::string& path, ListSide side);
     void ShowLines(std::shared_ptr<const ListLines> lines, ListSide side);
     void Rearrange();
-    void ShowPlainly();
+    void UncheckArrangement();
+    void ShowAnew();
     void ShowOrder(RowOrder order);
     void OnColumnChosen(int column);
     void OnNextRefusal();
@@ -89,8 +90,8 @@ private:
     void GoTo(std::uint32_t place);
     void ShowState();
     std::string DoneText(std::string_view what, std::uint64_t rows) const;
-    void Note(const std::string& note);
-    void Tell(const std::string& message);
+    void Note(std::string_view note);
+    void Tell(std::string_view message);
 
     const Platform& platform_;
     const Texts& texts_;
