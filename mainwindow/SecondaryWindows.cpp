@@ -81,9 +81,7 @@ void SecondaryWindows::ShowEnlarged(std::string_view output) {
     large_->Output(output, 0, false);
     const std::string_view line = LongestLine(output);
     large_->WidenDisplayIfNeeded(line, large_->CharacterWidth(line), kEnlargedScreenShare);
-    large_->show();
-    large_->raise();
-    large_->activateWindow();
+    BringToFront(*large_);
     large_->ShowEnd();
 }
 

@@ -2,21 +2,13 @@
 
 #include <algorithm>
 
+#include "datetext/Blanks.h"
+
 namespace calvoro {
 
 namespace {
 
 constexpr std::string_view kCrLf = "\r\n";
-
-bool IsBlank(char character) {
-    return character == ' ';
-}
-
-std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-    return text;
-}
 
 }  // namespace
 
@@ -41,7 +33,7 @@ std::optional<std::string_view> SettingsLines::TakeQuoted() {
         }
         const std::size_t close = start + quote;
         const std::string_view behind = rest_.substr(close + 1, end - close - 1);
-        if (!Trimmed(WithoutCarriageReturn(behind)).empty()) return {};
+        if (!TrimBlanks(WithoutCarriageReturn(behind)).empty()) return {};
         const std::string_view field = rest_.substr(1, close - 1);
         rest_.remove_prefix(end + lineEnd_.size());
         return field;
@@ -61,7 +53,7 @@ std::optional<SettingsLines::OutputAndUnit> SettingsLines::TakeOutputAndUnit() c
 // enough: no field has a meaning there.
 std::optional<std::int32_t> SettingsLines::WholeNumber(std::string_view field) {
     constexpr std::int32_t kLarge = 100'000'000;
-    field = Trimmed(field);
+    field = TrimBlanks(field);
     const bool negative = field.starts_with('-');
     if (negative || field.starts_with('+')) field.remove_prefix(1);
     if (field.empty()) return {};
@@ -89,7 +81,7 @@ std::string_view SettingsLines::WithoutCarriageReturn(std::string_view line) con
 
 // The number in the line after this one, in which nothing but blanks may stand.
 std::optional<std::int32_t> SettingsLines::UnitBehind(std::string_view text) const {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     if (lineEnd_ != kCrLf && text.starts_with('\r')) text.remove_prefix(1);
     if (!text.starts_with(lineEnd_)) return {};
     text.remove_prefix(lineEnd_.size());
