@@ -3,6 +3,7 @@
 // Digits written into a buffer, two at a time. Each function returns the place behind what it wrote.
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -29,7 +30,7 @@ inline char* WriteOneDigit(std::uint32_t number, char* to) {
 
 /// number  [0, 99]
 inline char* WriteTwoDigits(std::uint32_t number, char* to) {
-    std::memcpy(to, &digits::kPairs[2 * number], 2);
+    std::memcpy(to, &digits::kPairs[std::size_t{2} * number], 2);
     return to + 2;
 }
 
