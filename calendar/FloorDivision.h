@@ -12,9 +12,4 @@ constexpr std::int64_t FloorDivide(std::int64_t number, std::int64_t divisor) {
     return number / divisor - (number % divisor < 0 ? 1 : 0);
 }
 
-/// What FloorDivide leaves, from 0 to divisor - 1.
-constexpr std::int64_t FloorRemainder(std::int64_t number, std::int64_t divisor) {
-    return number - FloorDivide(number, divisor) * divisor;
-}
-
 }  // namespace calvoro

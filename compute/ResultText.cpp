@@ -83,7 +83,7 @@ bool FindAndDisplay(InputBox given, std::string_view difference,
                     ComputeState& state) {
     if (!find(window, state)) return false;
     AppendGivenDate(given, difference, window, state);
-    DisplayDate(given == InputBox::FirstDate ? kSecondDateBox : kFirstDateBox, window, state);
+    (given == InputBox::FirstDate ? DisplaySecondDate : DisplayFirstDate)(window, state);
     return true;
 }
 
