@@ -60,9 +60,9 @@ bool ScrollingPage::eventFilter(QObject* watched, QEvent* event) {
     return QScrollArea::eventFilter(watched, event);
 }
 
-// What has the focus is shown in one way, however it got it.
+// What has the focus is shown in one way, however it got it: by ShowFocus, and not by the toolkit's area too.
 bool ScrollingPage::focusNextPrevChild(bool next) {
-    return QWidget::focusNextPrevChild(next);
+    return QWidget::focusNextPrevChild(next);  // NOLINT(bugprone-parent-virtual-call): for that reason
 }
 
 void ScrollingPage::ShowFocus(const QWidget* focused) {
