@@ -5,19 +5,16 @@ list_test.py --list                                names every case
 list_test.py PROGRAM WINDOW_KEYS DRAG_SOURCE CASE  runs one
 """
 
-import pathlib
 import subprocess
-import sys
 import time
 import unittest
 
+import cases
 from desktop import Desktop, settings_text, wait_for
 
-# From the command line: the program under test, the one that tells which keys press its buttons, and the one
-# that things are dragged from.
-PROGRAM = None
-WINDOW_KEYS = None
-DRAG_SOURCE = None
+# The program under test, the one that tells which keys press its buttons, and the one that things are dragged
+# from.
+PROGRAM, WINDOW_KEYS, DRAG_SOURCE = cases.programs(3)
 
 THREE_LINES = "1582-10-04\nnonsense\n1900-02-29\n"
 NOT_VALID = "First date is not valid in specified calendar using specified date format."
@@ -178,23 +175,5 @@ class Lists(unittest.TestCase):
         self.assertEqual(self.desktop.quit(process), 0)
 
 
-def cases():
-    for suite in unittest.defaultTestLoader.loadTestsFromModule(sys.modules[__name__]):
-        for case in suite:
-            yield case.id().removeprefix("__main__.")
-
-
-def main():
-    global PROGRAM, WINDOW_KEYS, DRAG_SOURCE
-    if sys.argv[1:] == ["--list"]:
-        print("\n".join(cases()))
-        return
-    programs, names = sys.argv[1:4], sys.argv[4:]
-    PROGRAM, WINDOW_KEYS, DRAG_SOURCE = (str(pathlib.Path(path).resolve()) for path in programs)
-    suite = unittest.defaultTestLoader.loadTestsFromNames(names, sys.modules[__name__])
-    result = unittest.TextTestRunner(verbosity=2).run(suite)
-    sys.exit(0 if result.wasSuccessful() and result.testsRun == len(names) > 0 else 1)
-
-
 if __name__ == "__main__":
-    main()
+    cases.main(3)

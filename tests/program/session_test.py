@@ -1,131 +1,23 @@
 #!/usr/bin/env python3
-"""The whole program on a display, driven by keys.
+"""The whole program on a display, driven by keys, and ended in every way.
 
-program_test.py --list                    names every case
-program_test.py PROGRAM WINDOW_KEYS CASE  runs one
+session_test.py --list                    names every case
+session_test.py PROGRAM WINDOW_KEYS CASE  runs one
 """
 
-import itertools
 import pathlib
-import re
 import shutil
 import signal
-import subprocess
-import sys
 import time
 import unittest
 
-from desktop import PATIENCE, Desktop, settings_text, wait_for
+import cases
+from desktop import Desktop, settings_text, wait_for
 
-# From the command line: the program under test, and the one that tells which keys press its buttons.
-PROGRAM = None
-WINDOW_KEYS = None
+# The program under test, and the one that tells which keys press its buttons.
+PROGRAM, WINDOW_KEYS = cases.programs(2)
 
 PLUS_TEN_DAYS = "2021-03-04 CE plus 10 days = 2021-03-01 JC, Sunday, excluding 1st date\r\n"
-
-
-def run_without_display(arguments=(), **environment):
-    return subprocess.run([PROGRAM, *arguments], env={"LC_ALL": "C.UTF-8", **environment},
-                          capture_output=True, text=True, timeout=PATIENCE, check=False)
-
-
-class WithoutDisplay(unittest.TestCase):
-    def test_the_version_is_told(self):
-        result = run_without_display(["--version"])
-        version = "calvoro 13.0.1\nCopyright (c) 2026 the Calvoro authors, MIT licence\n"
-        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, version, ""))
-        self.assertEqual(run_without_display(["-V"]).stdout, version)
-
-    def test_help_is_given_whatever_stands_beside_it(self):
-        for arguments in (["--help"], ["-h"], ["-platform", "xcb", "--help"], ["--nonsense", "--help"]):
-            with self.subTest(arguments):
-                result = run_without_display(arguments)
-                self.assertEqual((result.returncode, result.stderr), (0, ""))
-                self.assertTrue(result.stdout.startswith("Usage: calvoro"), result.stdout)
-                self.assertIn("--version", result.stdout)
-
-    def test_what_is_not_known_is_refused_in_one_line(self):
-        for arguments in (["--nonsense"], ["-x"], ["file"], ["-"], ["--"], ["-platform"], [""],
-                          ["-style", "fusion", "-y"]):
-            with self.subTest(arguments):
-                result = run_without_display(arguments)
-                self.assertEqual((result.returncode, result.stdout), (2, ""))
-                self.assertEqual(len(result.stderr.splitlines()), 1)
-                self.assertIn(f"'{arguments[-1]}'", result.stderr)
-                self.assertIn("--help", result.stderr)
-
-    def test_what_a_terminal_would_obey_is_not_repeated(self):
-        result = run_without_display(["--\x1b[31m\u202e"])
-        self.assertEqual(result.returncode, 2)
-        self.assertIn(r"'--\x1B[31m\xE2\x80\xAE'", result.stderr)
-
-    def test_a_full_disk_is_reported(self):
-        with open("/dev/full", "w") as full:
-            result = subprocess.run([PROGRAM, "--version"], stdout=full, timeout=PATIENCE, check=False)
-        self.assertEqual(result.returncode, 1)
-
-    def test_the_window_is_refused_in_one_sentence(self):
-        with Desktop(PROGRAM) as desktop:
-            home = {"HOME": str(desktop.home), "XDG_RUNTIME_DIR": str(desktop.folder / "runtime")}
-            gone = desktop.display
-            desktop.stop_server()
-            cases = {
-                "no display": ([], {}),
-                "empty display": ([], {"DISPLAY": ""}),
-                "dead display": ([], {"DISPLAY": gone}),
-                "malformed display": ([], {"DISPLAY": "nonsense"}),
-                "dead display by option": (["-display", gone], {}),
-                "dead Wayland": ([], {"WAYLAND_DISPLAY": "wayland-7", "XDG_SESSION_TYPE": "wayland"}),
-                "X11 asked for": (["-platform", "xcb"], {}),
-                "unknown platform": (["-platform", "nonsense"], {}),
-                "platform by environment": ([], {"QT_QPA_PLATFORM": "xcb"}),
-            }
-            for name, (arguments, environment) in cases.items():
-                with self.subTest(name):
-                    result = run_without_display(arguments, **home, **environment)
-                    self.assertEqual((result.returncode, result.stdout), (1, ""))
-                    self.assertEqual(len(result.stderr.splitlines()), 1, result.stderr)
-                    self.assertIn("./run convert", result.stderr)
-                    self.assertIn("./run compute", result.stderr)
-            self.assertEqual(list(desktop.home.iterdir()), [], "nothing may be written")
-
-
-class ProgramTexts(unittest.TestCase):
-    """The numbered texts lie beside the program; without them it ends after one message."""
-
-    def start_with_texts(self, desktop, content):
-        folder = desktop.folder / "program"
-        folder.mkdir()
-        shutil.copy(PROGRAM, folder / "calvoro")
-        if content is not None:
-            (folder / "calvoro.dat").write_bytes(content)
-        desktop.program = str(folder / "calvoro")
-
-    def check_message_then_end(self, desktop):
-        process = desktop.launch()
-        box = wait_for("the message box", lambda: next(iter(desktop.windows()), None))
-        self.assertNotIn("Calvoro 13.0", desktop.windows().values())
-        desktop.dismiss(box)
-        self.assertEqual(desktop.end(process), 1)
-        self.assertFalse(desktop.settings_file.exists(), "no settings are saved")
-
-    def test_a_missing_file_ends_the_program_after_a_message(self):
-        with Desktop(PROGRAM) as desktop:
-            self.start_with_texts(desktop, None)
-            self.check_message_then_end(desktop)
-
-    def test_a_faulty_file_ends_the_program_after_a_message(self):
-        with Desktop(PROGRAM) as desktop:
-            self.start_with_texts(desktop, b"1\tone\teins\n1\tagain\tnochmal\n")
-            self.check_message_then_end(desktop)
-
-    def test_they_are_found_through_a_link_to_the_program(self):
-        with Desktop(PROGRAM) as desktop:
-            link = desktop.folder / "bin" / "calvoro"
-            link.parent.mkdir()
-            link.symlink_to(PROGRAM)
-            desktop.program = str(link)
-            self.assertEqual(desktop.quit(desktop.start()), 0)
 
 
 class Session(unittest.TestCase):
@@ -403,114 +295,5 @@ class Session(unittest.TestCase):
         self.assertIn(self.settings(), texts)
 
 
-class Together(unittest.TestCase):
-    """Programs that run at once: none of them loses a result of another one."""
-
-    START = "kept from before\r\n"
-
-    def setUp(self):
-        self.desktop = self.enterContext(Desktop(PROGRAM, WINDOW_KEYS))
-
-    def compute(self, day, start=START):
-        """Starts one more program, lets it compute from that day of March, and returns it with its window."""
-        known = set(self.desktop.windows())
-        self.desktop.put_settings(settings_text(f"2021-03-0{day}", "10", output=start, calendars="0,0,1"))
-        process = self.desktop.launch()
-        window = wait_for("one more window", lambda: next(
-            (number for number, name in self.desktop.windows().items()
-             if number not in known and name == "Calvoro 13.0"), None))
-        self.desktop.focus(window)
-        self.desktop.keys("Return")
-        return process, window
-
-    def close(self, process, window):
-        def ended():
-            self.desktop.focus(window)
-            self.desktop.keys("ctrl+q")
-            try:
-                process.wait(timeout=1)
-            except subprocess.TimeoutExpired:
-                return False
-            return True
-        wait_for("the program's end", ended)
-        self.assertEqual(process.returncode, 0)
-
-    def output(self):
-        """The saved output, its lines, and the first date that was saved with it."""
-        text = self.desktop.settings_file.read_bytes().decode()
-        output = re.fullmatch(r'(?s)(?:[^"]*\r\n){8}(?:"[^"]*"\r\n){5}"(.*)"\r\n[01]\r\n', text)
-        self.assertTrue(output, text[:1000])
-        return output[1]
-
-    def check_every_order(self, count):
-        for order in itertools.permutations(range(1, count + 1)):
-            with self.subTest(order):
-                running = {day: self.compute(day) for day in range(1, count + 1)}
-                for day in order:
-                    self.close(*running[day])
-                lines = self.output().split("\r\n")
-                self.assertEqual(lines[0] + "\r\n", self.START)
-                self.assertEqual([line[:26] for line in lines[1:-1]],
-                                 [f"2021-03-0{day} CE plus 10 days" for day in order])
-                # Of the boxes those of the last one stay.
-                self.assertIn(f'"2021-03-0{order[-1]}"'.encode(), self.desktop.settings_file.read_bytes())
-
-    def test_two_that_are_closed_in_every_order(self):
-        self.check_every_order(2)
-
-    def test_three_that_are_closed_in_every_order(self):
-        self.check_every_order(3)
-
-    def test_one_that_is_killed_while_saving(self):
-        long_start = "an earlier line\r\n" * 100_000
-        for step in range(6):
-            with self.subTest(step):
-                killed, _ = self.compute(1, long_start)
-                second = self.compute(2, long_start)
-                third = self.compute(3, long_start)
-                killed.send_signal(signal.SIGTERM)
-                time.sleep(step * 0.02)
-                killed.kill()
-                self.desktop.end(killed)
-                self.close(*third)
-                self.close(*second)
-                output = self.output()
-                self.assertTrue(output.startswith(long_start))
-                lines = output[len(long_start):].split("\r\n")[:-1]
-                days = [line[9:10] for line in lines]
-                self.assertIn(days, (["3", "2"], ["1", "3", "2"]))
-                self.assertEqual(list(self.desktop.settings_file.parent.iterdir()), [self.desktop.settings_file])
-
-    def test_one_that_saves_no_texts(self):
-        saving = self.compute(1)
-        self.desktop.put_settings(settings_text("2021-03-02", "10", output=self.START, checks=(0, 1, 1, 1, 0)))
-        known = set(self.desktop.windows())
-        process = self.desktop.launch()
-        window = wait_for("one more window", lambda: next(iter(set(self.desktop.windows()) - known), None))
-        self.close(*saving)
-        self.close(process, window)
-        # The start was this one's to drop, the other's result was not.
-        self.assertEqual([line[:26] for line in self.output().split("\r\n")],
-                         ["2021-03-01 CE plus 10 days", ""])
-
-
-def cases():
-    for suite in unittest.defaultTestLoader.loadTestsFromModule(sys.modules[__name__]):
-        for case in suite:
-            yield case.id().removeprefix("__main__.")
-
-
-def main():
-    global PROGRAM, WINDOW_KEYS
-    if sys.argv[1:] == ["--list"]:
-        print("\n".join(cases()))
-        return
-    PROGRAM, WINDOW_KEYS, *names = sys.argv[1:]
-    PROGRAM, WINDOW_KEYS = (str(pathlib.Path(path).resolve()) for path in (PROGRAM, WINDOW_KEYS))
-    suite = unittest.defaultTestLoader.loadTestsFromNames(names, sys.modules[__name__])
-    result = unittest.TextTestRunner(verbosity=2).run(suite)
-    sys.exit(0 if result.wasSuccessful() and result.testsRun == len(names) > 0 else 1)
-
-
 if __name__ == "__main__":
-    main()
+    cases.main(2)
