@@ -8,6 +8,8 @@
 
 namespace calvoro {
 
+class ReplacementFile;
+
 /// Whoever opens the file at any moment finds the old content or the new one and never a part: the pieces go
 /// to a file of another name in the same folder, which is flushed to the disk and renamed at the end, and
 /// deleted when it comes to no end. A symbolic link is followed. An old file keeps its permissions; a new one
@@ -34,8 +36,7 @@ public:
     int Error() const;
 
 private:
-    class File;
-    std::unique_ptr<File> file_;
+    std::unique_ptr<ReplacementFile> file_;
 };
 
 }  // namespace calvoro

@@ -1,4 +1,4 @@
-#include "platform/FileReplacement.h"
+#include "platform/ReplacementFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -32,11 +32,9 @@ int WhyNotReplaceable(const std::string& path, const struct stat& status) {
     return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
-}  // namespace
-
-class FileReplacement::File {
+class PosixReplacementFile final : public ReplacementFile {
 public:
-    explicit File(const std::string& path) : target_(WithLinksResolved(path)) {
+    explicit PosixReplacementFile(const std::string& path) : target_(WithLinksResolved(path)) {
         struct stat old {};
         mode_t permissions = UsualPermissions();
         if (::stat(target_.c_str(), &old) == 0) {
@@ -52,19 +50,16 @@ public:
         if (descriptor_ < 0 || ::fchmod(descriptor_, permissions) != 0) GiveUp(errno);
     }
 
-    ~File() { GiveUp(error_); }
+    ~PosixReplacementFile() override { GiveUp(error_); }
 
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
-
-    void Write(std::string_view bytes) {
+    void Write(std::string_view bytes) override {
         if (error_ != 0) return;
         const NoFileSizeSignal noSignal;
         const int error = WriteAll(descriptor_, bytes);
         if (error != 0) GiveUp(error);
     }
 
-    void Commit() {
+    void Commit() override {
         if (error_ != 0) return;
         // Some file systems have nothing to flush and say so with EINVAL.
         const bool isFlushed = ::fsync(descriptor_) == 0 || errno == EINVAL;
@@ -75,7 +70,7 @@ public:
         ::close(std::exchange(descriptor_, -1));
     }
 
-    int Error() const { return error_; }
+    int Error() const override { return error_; }
 
 private:
     // Leaves nothing of what was written, which is in the way of a full disk.
@@ -92,20 +87,10 @@ private:
     int error_ = 0;
 };
 
-FileReplacement::FileReplacement(const std::string& path) : file_(std::make_unique<File>(path)) {}
+}  // namespace
 
-FileReplacement::~FileReplacement() = default;
-
-void FileReplacement::Write(std::string_view bytes) {
-    file_->Write(bytes);
-}
-
-void FileReplacement::Commit() {
-    file_->Commit();
-}
-
-int FileReplacement::Error() const {
-    return file_->Error();
+std::unique_ptr<ReplacementFile> BeginReplacement(const std::string& path) {
+    return std::make_unique<PosixReplacementFile>(path);
 }
 
 }  // namespace calvoro

@@ -1,4 +1,4 @@
-#include "platform/FileReplacement.h"
+#include "platform/ReplacementFile.h"
 
 #include <windows.h>
 
@@ -36,11 +36,9 @@ int WhyNotReplaceable(const std::wstring& path) {
     return (attributes & (FILE_ATTRIBUTE_DEVICE | FILE_ATTRIBUTE_READONLY)) != 0 ? EACCES : 0;
 }
 
-}  // namespace
-
-class FileReplacement::File {
+class WindowsReplacementFile final : public ReplacementFile {
 public:
-    explicit File(const std::string& path)
+    explicit WindowsReplacementFile(const std::string& path)
         : target_(WithLinksResolved(WideText(path))), error_(WhyNotReplaceable(target_)) {
         // A name that nothing has: what stands beside the file may be the user's.
         for (int attempt = 0; error_ == 0 && handle_ == INVALID_HANDLE_VALUE; ++attempt) {
@@ -55,12 +53,9 @@ public:
         }
     }
 
-    ~File() { GiveUp(error_); }
+    ~WindowsReplacementFile() override { GiveUp(error_); }
 
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
-
-    void Write(std::string_view bytes) {
+    void Write(std::string_view bytes) override {
         constexpr std::size_t kMostAtOnce = std::size_t{1024} * 1024 * 1024;
         while (error_ == 0 && !bytes.empty()) {
             DWORD written = 0;
@@ -73,7 +68,7 @@ public:
         }
     }
 
-    void Commit() {
+    void Commit() override {
         if (error_ != 0) return;
         constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
         if (::FlushFileBuffers(handle_) == 0) {
@@ -89,7 +84,7 @@ public:
         }
     }
 
-    int Error() const { return error_; }
+    int Error() const override { return error_; }
 
 private:
     // Leaves nothing of what was written, which is in the way of a full disk.
@@ -107,20 +102,10 @@ private:
     HANDLE handle_ = INVALID_HANDLE_VALUE;  // while it is being written
 };
 
-FileReplacement::FileReplacement(const std::string& path) : file_(std::make_unique<File>(path)) {}
+}  // namespace
 
-FileReplacement::~FileReplacement() = default;
-
-void FileReplacement::Write(std::string_view bytes) {
-    file_->Write(bytes);
-}
-
-void FileReplacement::Commit() {
-    file_->Commit();
-}
-
-int FileReplacement::Error() const {
-    return file_->Error();
+std::unique_ptr<ReplacementFile> BeginReplacement(const std::string& path) {
+    return std::make_unique<WindowsReplacementFile>(path);
 }
 
 }  // namespace calvoro
