@@ -17,7 +17,7 @@ endif()
 string(JOIN "|" of_one_system
   conio csignal dirent dlfcn fcntl fnmatch glob grp io langinfo netdb objbase poll process pthread pwd
   sched shellapi shlobj signal spawn strings syslog termios unistd winsock2 windows)
-foreach(folder calendar datetext quicktext text compute platform windows mainwindow app cli python tests bench)
+foreach(folder calendar csvtext datetext quicktext text compute platform windows mainwindow app cli python tests bench)
   file(GLOB_RECURSE files "${ROOT}/${folder}/*.h" "${ROOT}/${folder}/*.cpp")
   foreach(file IN LISTS files)
     file(STRINGS "${file}" includes REGEX "^[ \t]*#[ \t]*include")

@@ -1,42 +1,28 @@
 #include "cli/columns/Columns.h"
 
-#include <cstring>
+#include "csvtext/QuotedField.h"
 
 namespace calvoro {
 namespace {
-
-std::size_t Find(std::string_view text, char character, std::size_t from) {
-    if (from >= text.size()) return text.size();
-    const void* const found = std::memchr(text.data() + from, character, text.size() - from);
-    return found == nullptr ? text.size()
-                            : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
-}
-
-// The first quote from `from` on that is not one of two; the end of the text when there is none.
-std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
-    std::size_t quote = Find(text, '"', from);
-    while (quote + 1 < text.size() && text[quote + 1] == '"') quote = Find(text, '"', quote + 2);
-    return quote;
-}
 
 // Where the field that begins at `from` ends. Only a field that begins with quotes is quoted; what stands
 // between closing quotes and the delimiter belongs to it.
 std::size_t FindEndOfField(std::string_view text, std::size_t from, char delimiter, bool csv) {
     if (csv && from < text.size() && text[from] == '"') {
         const std::size_t quote = FindClosingQuote(text, from + 1);
-        return quote == text.size() ? quote : Find(text, delimiter, quote + 1);
+        return quote == text.size() ? quote : FindCharacter(text, delimiter, quote + 1);
     }
-    return Find(text, delimiter, from);
+    return FindCharacter(text, delimiter, from);
 }
 
 }  // namespace
 
 std::size_t JoinQuotedLines(LineReader& reader, char delimiter, std::string_view& line) {
     std::size_t joined = 0;
-    if (Find(line, '"', 0) == line.size()) return joined;
+    if (FindCharacter(line, '"', 0) == line.size()) return joined;
     for (std::size_t at = 0; at < line.size();) {
         if (line[at] != '"') {
-            at = Find(line, delimiter, at) + 1;
+            at = FindCharacter(line, delimiter, at) + 1;
             continue;
         }
         std::size_t quote = FindClosingQuote(line, at + 1);
@@ -45,7 +31,7 @@ std::size_t JoinQuotedLines(LineReader& reader, char delimiter, std::string_view
             ++joined;
             quote = FindClosingQuote(line, quote);
         }
-        at = Find(line, delimiter, quote + 1) + 1;
+        at = FindCharacter(line, delimiter, quote + 1) + 1;
     }
     return joined;
 }
@@ -65,13 +51,7 @@ bool Columns::Split(std::string_view line) {
 std::string_view Columns::Text(std::size_t index) {
     const std::string_view raw = columns_[index];
     if (!csv_ || raw.empty() || raw.front() != '"') return raw;
-    unquoted_.clear();
-    const std::size_t closing = FindClosingQuote(raw, 1);
-    for (std::size_t at = 1; at < closing; ++at) {
-        unquoted_ += raw[at];
-        if (raw[at] == '"') ++at;
-    }
-    if (closing < raw.size()) unquoted_ += raw.substr(closing + 1);
+    Unquote(raw, FindClosingQuote(raw, 1), unquoted_);
     return unquoted_;
 }
 

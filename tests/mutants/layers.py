@@ -10,6 +10,7 @@ _TESTS = {
     "calendar": ["calendar_test", "calendar_properties_test", "datetext_test", "quicktext_test", "compute_test", "cli_test"],
     "datetext": ["datetext_test", "quicktext_test", "compute_test", "datetext_properties_test", "list_lines_test",
                  "settings_file_test"] + _COMMAND,
+    "csvtext": ["csvtext_test", "list_lines_test"] + _COMMAND,
     "quicktext": ["quicktext_test", "quicktext_properties_test"] + _COMMAND,
     "text": ["text_test", "text_out_of_memory_test", "compute_test", "settings_file_test"] + _COMMAND,
     "compute": ["compute_test", "compute_properties_test"] + _COMMAND,

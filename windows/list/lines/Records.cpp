@@ -1,25 +1,11 @@
 #include "windows/list/lines/Records.h"
 
 #include <algorithm>
-#include <cstring>
+
+#include "csvtext/QuotedField.h"
 
 namespace calvoro {
 namespace {
-
-// The next such character, or the end of the text.
-std::size_t Find(std::string_view text, char character, std::size_t from) {
-    if (from >= text.size()) return text.size();
-    const void* const found = std::memchr(text.data() + from, character, text.size() - from);
-    return found == nullptr ? text.size()
-                            : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
-}
-
-// The first quote from `from` on that is not one of two; the end of the text when there is none.
-std::size_t FindClosingQuote(std::string_view text, std::size_t from) {
-    std::size_t quote = Find(text, '"', from);
-    while (quote + 1 < text.size() && text[quote + 1] == '"') quote = Find(text, '"', quote + 2);
-    return quote;
-}
 
 // Where the field that begins at `from` ends. What stands between closing quotes and the delimiter belongs to
 // it; quotes that are not closed are characters like any other.
@@ -27,9 +13,9 @@ std::size_t EndOfField(std::string_view line, std::size_t from, const FieldShape
     if (shape.delimiter == '\0') return line.size();
     if (shape.quotes && from < line.size() && line[from] == '"') {
         const std::size_t quote = FindClosingQuote(line, from + 1);
-        if (quote != line.size()) return Find(line, shape.delimiter, quote + 1);
+        if (quote != line.size()) return FindCharacter(line, shape.delimiter, quote + 1);
     }
-    return Find(line, shape.delimiter, from);
+    return FindCharacter(line, shape.delimiter, from);
 }
 
 // The line end at which the row that begins the text ends, when a quoted field reaches over its first one;
@@ -38,13 +24,13 @@ std::size_t EndOfQuotedLines(std::string_view text, std::size_t firstEnd, const 
     std::size_t end = firstEnd;
     for (std::size_t at = 0; at < end;) {
         if (text[at] != '"') {
-            at = Find(text.substr(0, end), shape.delimiter, at) + 1;
+            at = FindCharacter(text.substr(0, end), shape.delimiter, at) + 1;
             continue;
         }
         const std::size_t quote = FindClosingQuote(text, at + 1);
         if (quote == text.size()) return firstEnd;
-        if (quote > end) end = Find(text, '\n', quote + 1);
-        at = Find(text.substr(0, end), shape.delimiter, quote + 1) + 1;
+        if (quote > end) end = FindCharacter(text, '\n', quote + 1);
+        at = FindCharacter(text.substr(0, end), shape.delimiter, quote + 1) + 1;
     }
     return end;
 }
@@ -55,8 +41,9 @@ Record RecordAt(std::string_view text, std::size_t from, const FieldShape& shape
     // Two bytes more for the line end.
     const std::string_view ahead = text.substr(from, kLongestLine + 2);
     const bool isWhole = from + ahead.size() == text.size();
-    std::size_t end = Find(ahead, '\n', 0);
-    if (shape.quotes && Find(ahead.substr(0, end), '"', 0) != end) end = EndOfQuotedLines(ahead, end, shape);
+    std::size_t end = FindCharacter(ahead, '\n', 0);
+    if (shape.quotes && FindCharacter(ahead.substr(0, end), '"', 0) != end)
+        end = EndOfQuotedLines(ahead, end, shape);
 
     Record record;
     record.next = from + std::min(end + 1, ahead.size());
@@ -102,12 +89,7 @@ std::string_view FieldText(std::string_view field, const FieldShape& shape, std:
     if (!shape.quotes || field.empty() || field.front() != '"') return field;
     const std::size_t closing = FindClosingQuote(field, 1);
     if (closing == field.size()) return field;
-    scratch.clear();
-    for (std::size_t at = 1; at < closing; ++at) {
-        scratch += field[at];
-        if (field[at] == '"') ++at;
-    }
-    scratch += field.substr(closing + 1);
+    Unquote(field, closing, scratch);
     return scratch;
 }
 
