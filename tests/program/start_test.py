@@ -5,8 +5,13 @@ start_test.py --list        names every case
 start_test.py PROGRAM CASE  runs one
 """
 
+import os
+import pathlib
+import re
 import shutil
+import signal
 import subprocess
+import tempfile
 import unittest
 
 import cases
@@ -18,6 +23,12 @@ from desktop import PATIENCE, Desktop, wait_for
 def run_without_display(arguments=(), **environment):
     return subprocess.run([PROGRAM, *arguments], env={"LC_ALL": "C.UTF-8", **environment},
                           capture_output=True, text=True, timeout=PATIENCE, check=False)
+
+
+def catches(process, number):
+    """Whether a process has a handler for a signal, so that its start is behind it."""
+    status = pathlib.Path(f"/proc/{process}/status").read_text()
+    return int(re.search(r"SigCgt:\s*(\w+)", status)[1], 16) >> (number - 1) & 1
 
 
 class WithoutDisplay(unittest.TestCase):
@@ -54,6 +65,18 @@ class WithoutDisplay(unittest.TestCase):
         with open("/dev/full", "w") as full:
             result = subprocess.run([PROGRAM, "--version"], stdout=full, timeout=PATIENCE, check=False)
         self.assertEqual(result.returncode, 1)
+
+    def test_what_the_toolkit_says_while_starting_is_passed_on(self):
+        with tempfile.TemporaryDirectory() as home:
+            environment = {**os.environ, "HOME": home, "XDG_CONFIG_HOME": home, "QT_QPA_PLATFORM": "offscreen",
+                           "QT_DEBUG_PLUGINS": "1"}
+            log = pathlib.Path(home, "said")
+            with log.open("w") as said, subprocess.Popen([PROGRAM], env=environment, stderr=said) as program:
+                wait_for("the signals", lambda: catches(program.pid, signal.SIGTERM))
+                program.terminate()
+                self.assertEqual(program.wait(PATIENCE), 0)
+            said = log.read_text()
+        self.assertTrue(said.startswith("qt.core.plugin"), said)
 
     def test_the_window_is_refused_in_one_sentence(self):
         with Desktop(PROGRAM) as desktop:
