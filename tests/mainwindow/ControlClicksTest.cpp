@@ -1,5 +1,7 @@
 // What each option, check box and link of the main window does when it is clicked, and where the focus goes.
 
+#include <QRadioButton>
+
 #include "tests/mainwindow/MainWindowFixture.h"
 
 using namespace calvoro;
@@ -29,6 +31,26 @@ private Q_SLOTS:
         main.Focus(u"cmdHelp"_s);
         main.window->SetTheFocus();
         QCOMPARE(main.Focused(), focus);
+    }
+
+    // Were it shown as a whole when it gets the focus, it would move away before the button is let go.
+    void AClickOnAnOptionThatIsPartlyInSightIsNotLost() {
+        MainWindowFixture main;
+        main.Start();
+        QCoreApplication::processEvents();
+        int clicked = 0;
+        for (auto* option : main.window->findChildren<QRadioButton*>()) {
+            const QPoint mark(9, option->height() / 2);
+            const QRect seen = option->visibleRegion().boundingRect();
+            if (option->isChecked() || !seen.contains(mark) || seen.width() == option->width()) continue;
+            QTest::mouseClick(main.window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                              option->mapTo(main.window.get(), mark));
+            QVERIFY2(option->isChecked(), qPrintable(option->objectName()));
+            ++clicked;
+            main.Focus(u"txbFirstDate"_s);
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(clicked > 0);
     }
 
     void ADateFormatShowsItsExamplesAndDeliberatelyEmptiesTheBoxes_data() {

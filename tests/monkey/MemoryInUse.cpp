@@ -1,0 +1,68 @@
+#include "tests/monkey/MemoryInUse.h"
+
+#include <malloc.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+
+namespace calvoro::monkey {
+namespace {
+
+std::uint64_t BytesInUse() {
+    ::malloc_trim(0);  // what is given back already counts no more
+    std::ifstream file("/proc/self/statm");
+    std::uint64_t size = 0;
+    std::uint64_t resident = 0;
+    file >> size >> resident;
+    return resident * static_cast<std::uint64_t>(::sysconf(_SC_PAGESIZE));
+}
+
+}  // namespace
+
+void MemoryInUse::After(std::uint64_t events) {
+    if (every_ != 0 && events % every_ == 0) looks_.push_back({events, BytesInUse()});
+}
+
+void MemoryInUse::Waste() {
+    constexpr std::size_t kWaste = 200'000;  // bytes
+    wasted_.emplace_back(kWaste, 'x');
+}
+
+// The slope of the straight line that lies nearest to the looks of the second half.
+double MemoryInUse::BytesAnEvent() const {
+    const std::size_t begin = looks_.size() / 2;
+    const auto count = static_cast<double>(looks_.size() - begin);
+    double meanEvents = 0;
+    double meanBytes = 0;
+    for (std::size_t i = begin; i < looks_.size(); ++i) {
+        meanEvents += static_cast<double>(looks_[i].events) / count;
+        meanBytes += static_cast<double>(looks_[i].bytes) / count;
+    }
+    double products = 0;
+    double squares = 0;
+    for (std::size_t i = begin; i < looks_.size(); ++i) {
+        const double events = static_cast<double>(looks_[i].events) - meanEvents;
+        products += events * (static_cast<double>(looks_[i].bytes) - meanBytes);
+        squares += events * events;
+    }
+    return squares > 0 ? products / squares : 0;
+}
+
+bool MemoryInUse::Tell() const {
+    for (const Look& look : looks_) {
+        std::printf("%llu events: %.1f MB\n", static_cast<unsigned long long>(look.events),
+                    static_cast<double>(look.bytes) / 1e6);
+    }
+    constexpr std::size_t kFewest = 6;
+    if (looks_.size() < kFewest) {
+        std::printf("memory: too few looks to tell\n");
+        return false;
+    }
+    const double growth = BytesAnEvent();
+    std::printf("memory: %+.1f bytes an event over the second half; at most %.0f are allowed\n", growth,
+                kMostBytesAnEvent);
+    return growth <= kMostBytesAnEvent;
+}
+
+}  // namespace calvoro::monkey
