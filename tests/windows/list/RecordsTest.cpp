@@ -33,6 +33,7 @@ TEST(Fields, AreDividedByTheDelimiter) {
 
 TEST(Fields, LoseTheirQuotes) {
     EXPECT_EQ(Texts("\"a,b\",c", kCsv), (Strings{"a,b", "c"}));
+    EXPECT_EQ(Texts("\"a,\",\",b\",c", kCsv), (Strings{"a,", ",b", "c"}));
     EXPECT_EQ(Texts("\"a \"\"b\"\"\",c", kCsv), (Strings{"a \"b\"", "c"}));
     EXPECT_EQ(Texts("\"a\"b,c", kCsv), (Strings{"ab", "c"}));
     EXPECT_EQ(Texts("a\"b,c\"", kCsv), (Strings{"a\"b", "c\""}));
@@ -47,7 +48,7 @@ TEST(Fields, KeepTheRestInTheLastOne) {
 }
 
 TEST(Fields, AreFoundOneByOneAsAllAtOnce) {
-    for (const std::string line : {"a,b,,c", "", ",", "\"a,b\",c", "\"a,b", "a,\"b\nc\",d"}) {
+    for (const std::string line : {"a,b,,c", "", ",", "\"a,b\",c", "\"a,\",b", "\"a,b", "a,\"b\nc\",d"}) {
         std::vector<std::string_view> fields;
         SplitFields(line, kCsv, 256, fields);
         EXPECT_EQ(CountFields(line, kCsv), fields.size()) << line;
