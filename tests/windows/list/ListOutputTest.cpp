@@ -110,6 +110,21 @@ TEST_F(ListToFileTest, ReplacesTheFileWhenAllIsWritten) {
     EXPECT_EQ(Files(), 1);
 }
 
+TEST_F(ListToFileTest, TellsHowFarItHasCome) {
+    const ListSheet sheet = SheetOf(std::string(100'000, '\n'));
+    ListToFile save(sheet, {{}, {{0, 99'999}}}, kBare, path_);
+    EXPECT_EQ(save.Done(), 0);
+    double before = 0;
+    while (!save.Step()) {
+        EXPECT_GT(save.Done(), before);
+        EXPECT_DOUBLE_EQ(save.Done(), static_cast<double>(save.Written()) / 100'000);
+        before = save.Done();
+    }
+    EXPECT_GT(before, 0);
+    EXPECT_EQ(save.Done(), 1);
+    EXPECT_EQ(ListToFile(sheet, {{}, {}}, kBare, path_).Done(), 1);
+}
+
 TEST_F(ListToFileTest, LeavesTheFileWhenItIsStopped) {
     std::ofstream(path_) << "old";
     {
