@@ -68,6 +68,24 @@ TEST_F(ListFileTest, IsDividedByItsName) {
     }
 }
 
+TEST_F(ListFileTest, IsClosedWhetherItWasReadOrNot) {
+    const std::string path = Write("list", "1\n2\n");
+    const auto firstFree = [] {
+        const int descriptor = ::dup(STDIN_FILENO);
+        ::close(descriptor);
+        return descriptor;
+    };
+    const int before = firstFree();
+    ASSERT_GE(before, 0);
+    { const ListFile opened(path); }
+    EXPECT_EQ(firstFree(), before);
+    ListFile read(path);
+    RunToEnd(read);
+    EXPECT_EQ(firstFree(), before);
+    EXPECT_EQ(RefusalOf(folder_ / "missing").fault, ListFault::Unreadable);
+    EXPECT_EQ(firstFree(), before);
+}
+
 TEST_F(ListFileTest, TellsWhyItIsNone) {
     const ListRefusal missing = RefusalOf(folder_ / "missing");
     EXPECT_EQ(missing.fault, ListFault::Unreadable);
