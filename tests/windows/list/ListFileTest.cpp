@@ -114,7 +114,9 @@ TEST_F(ListFileTest, IsNeverWaitedFor) {
 TEST_F(ListFileTest, RefusesALineOfAGigabyteAtOnce) {
     const std::string path = Write("one-line", "");
     fs::resize_file(path, kLargestList + 1);  // a hole: takes no room on the disk
-    EXPECT_EQ(RefusalOf(path).fault, ListFault::TooLarge);
+    ListFile large(path);
+    EXPECT_TRUE(large.Step()) << "read before it is refused";
+    EXPECT_EQ(large.Refusal().fault, ListFault::TooLarge);
     const std::string text = Write("long-line", std::string(3 * kLongestLine, '1') + "\n2\n");
     EXPECT_EQ(RefusalOf(text).fault, ListFault::LineTooLong);
     EXPECT_EQ(RefusalOf(text).line, 1U);

@@ -59,6 +59,16 @@ TEST(OrderRows, AgreesWithAStableSort) {
     EXPECT_EQ(Arranged(text, kByDay), expected);
 }
 
+TEST(OrderRows, AreDoneForGoodOnceTheyAreDone) {
+    for (const Arrangement arrangement : {kRefusals, kByDay, kBoth}) {
+        OrderRows job(std::make_shared<ListSurvey>(SheetOf("3\nx\n1\ny\n"), arrangement.byDay), arrangement);
+        RunToEnd(job);
+        EXPECT_TRUE(job.Step());
+        EXPECT_TRUE(job.Step());
+        EXPECT_EQ(*job.Take(), Arranged("3\nx\n1\ny\n", arrangement));
+    }
+}
+
 TEST(ListSurvey, CountsRefusalsPieceByPiece) {
     std::string text;
     for (int i = 0; i < 10'000; ++i) text += i % 10 == 0 ? "x\n" : "1\n";
