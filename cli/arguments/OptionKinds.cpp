@@ -71,6 +71,7 @@ void BeginCommand(CLI::App& command, const char* usage, const char* footer) {
     command.formatter(std::make_shared<HelpFormatter>(usage));
     command.footer(footer);
     command.option_defaults()->take_last();
+    command.allow_windows_style_options(false);  // "/help" is a text there too
     command.set_help_flag("-h,--help", "this help");
     command.set_version_flag("--version", "calvoro-cli " CALVORO_VERSION "\n" CALVORO_NOTICE, "the version");
 }
