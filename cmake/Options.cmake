@@ -3,7 +3,7 @@
 option(CALVORO_BUILD_WINDOW "Build the window (needs Qt 6 Widgets)" ON)
 option(CALVORO_BUILD_TESTS "Build the tests (needs GoogleTest)" ${PROJECT_IS_TOP_LEVEL})
 option(CALVORO_TEST_PROPERTIES "Build the tests that need RapidCheck" ON)
-option(CALVORO_PRECOMPILE_TESTS "Compile GoogleTest's headers once a test program" OFF)
+option(CALVORO_PRECOMPILE "Compile the headers of Qt and GoogleTest once for all sources" OFF)
 set(CALVORO_GOOGLETEST_SOURCE "" CACHE PATH "Build GoogleTest from this folder instead of looking for it")
 option(CALVORO_BUILD_PYTHON "Build the Python module (needs Python 3, pybind11 and NumPy)" OFF)
 option(CALVORO_BUILD_BENCH "Build the benchmarks (needs Google Benchmark)" OFF)

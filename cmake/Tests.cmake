@@ -9,8 +9,15 @@ else()
   find_package(GTest REQUIRED)
 endif()
 include(GoogleTest)
+calvoro_precompile(tests HEADERS <gtest/gtest.h> LIBRARIES GTest::gtest)
 if(CALVORO_BUILD_WINDOW)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  # Rows of tests are full of literals.
+  set(calvoro_window_test_options -UQT_NO_CAST_FROM_ASCII)
+  calvoro_precompile(window_tests
+    HEADERS <QtCore> <QAccessible> <QApplication> <QKeyEvent> <QLabel> <QLineEdit> <QPlainTextEdit> <QPushButton>
+    LIBRARIES calvoro_qt_options Qt6::Widgets
+    OPTIONS ${calvoro_window_test_options})
 endif()
 
 set(CALVORO_TESTS_ROOT "${CALVORO_INCLUDE_ROOTS}/tests")
@@ -54,8 +61,8 @@ function(calvoro_test name)
   target_include_directories(${name} PRIVATE "${CALVORO_TESTS_ROOT}")
   target_compile_definitions(${name} PRIVATE CALVORO_SOURCE_DIR="${calvoro_SOURCE_DIR}")
   calvoro_use(${name} ${ARG_MAY_USE})
-  if(CALVORO_PRECOMPILE_TESTS)
-    target_precompile_headers(${name} PRIVATE <gtest/gtest.h>)
+  if(NOT "windows" IN_LIST ARG_MAY_USE)  # whose libraries bring options of their own
+    calvoro_use_precompiled(${name} tests)
   endif()
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name})
@@ -79,7 +86,12 @@ function(calvoro_window_test name)
   target_link_libraries(${name} PRIVATE calvoro_options calvoro_qt_options Qt6::Test Qt6::Widgets ${ARG_LIBRARIES})
   target_include_directories(${name} PRIVATE "${CALVORO_TESTS_ROOT}")
   target_compile_definitions(${name} PRIVATE CALVORO_SOURCE_DIR="${calvoro_SOURCE_DIR}")
+  target_compile_options(${name} PRIVATE ${calvoro_window_test_options})
   calvoro_use(${name} ${ARG_MAY_USE})
+  calvoro_use_precompiled(${name} window_tests)
+  # Nearly always empty, as the tests include what moc makes of them.
+  set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp"
+    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
   set(platform offscreen)
   set(display)
   if(ARG_X11)
