@@ -202,6 +202,12 @@ private:
 template <typename Road>
 const char* Convert(const char* at, const Work& work, const char* unquoted, const Road& road, Progress& done,
                     std::uint64_t& lines) {
+    if (unquoted == at) {
+        // Where the first line is quoted already, as in a table that quotes every line, nothing is converted
+        // in vain.
+        unquoted = FindQuote(at, at, work.end);
+        if (unquoted < work.end && *unquoted == '"' && Find(at, unquoted, '\n') == nullptr) return at;
+    }
     std::uint64_t converted = 0;
     while (at <= work.last) {
         Progress further = done;
