@@ -53,10 +53,6 @@ function(calvoro_test name)
     # Under the sanitizers GCC 12 takes the states of <regex> for uninitialised.
     target_compile_options(${name} PRIVATE -Wno-maybe-uninitialized)
   endif()
-  if(CMAKE_CROSSCOMPILING)
-    # For some processors GCC 12 takes the pieces of a joined std::string for overlapping or endless ones.
-    target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overread)
-  endif()
   target_link_libraries(${name} PRIVATE calvoro_options GTest::gtest GTest::gtest_main ${ARG_LIBRARIES})
   target_include_directories(${name} PRIVATE "${CALVORO_TESTS_ROOT}")
   target_compile_definitions(${name} PRIVATE CALVORO_SOURCE_DIR="${calvoro_SOURCE_DIR}")
