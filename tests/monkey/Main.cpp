@@ -44,11 +44,12 @@ extern "C" void __sanitizer_set_death_callback(void (*callback)()) __attribute__
 namespace {
 
 void TellWhereInEveryCrash() {
+    std::signal(SIGABRT, OnSignal);  // which the sanitizers leave to the program
     if (__sanitizer_set_death_callback != nullptr) {
         __sanitizer_set_death_callback(&TellWhere);
         return;
     }
-    for (const int signal : {SIGABRT, SIGSEGV, SIGFPE, SIGBUS, SIGILL}) std::signal(signal, OnSignal);
+    for (const int signal : {SIGSEGV, SIGFPE, SIGBUS, SIGILL}) std::signal(signal, OnSignal);
 }
 
 /// "1-5,9" to its numbers' ranges.
