@@ -27,8 +27,10 @@ inline std::size_t FindCharacter(std::string_view text, char character, std::siz
 /// returns  the first quote that is not one of two; the end of the text when there is none
 std::size_t FindClosingQuote(std::string_view text, std::size_t from);
 
-/// What a field says that begins with a quote: of two quotes one, and what stands behind the closing one as
-/// it is. field    with its quotes closing  what FindClosingQuote found text     replaced by the answer
+/// What a field says that begins with a quote: of two quotes one, and what stands behind the closing one.
+/// field    with its quotes
+/// closing  what FindClosingQuote found
+/// text     replaced by the answer
 void Unquote(std::string_view field, std::size_t closing, std::string& text);
 
 }  // namespace calvoro
