@@ -35,6 +35,16 @@ if(CALVORO_COVERAGE)
   set(CALVORO_TEST_PATIENCE 5)
 endif()
 
+# A hundred programs are linked with the same large libraries: with gold, where it is at hand, in a fifth of the time.
+set(calvoro_test_linker)
+if(NOT CMAKE_CROSSCOMPILING AND NOT CALVORO_SANITIZE AND NOT CALVORO_COVERAGE)
+  include(CheckLinkerFlag)
+  check_linker_flag(CXX -fuse-ld=gold CALVORO_LINKS_WITH_GOLD)
+  if(CALVORO_LINKS_WITH_GOLD)
+    set(calvoro_test_linker -fuse-ld=gold)
+  endif()
+endif()
+
 #   calvoro_test(calendar_test SOURCES EuroDateTest.cpp ... MAY_USE calendar [POSIX ...] [LIBRARIES ...] [TIMEOUT s])
 #
 # POSIX lists sources whose tests need what Windows has not: signals, FIFOs, limits of a process, permissions of
@@ -53,6 +63,7 @@ function(calvoro_test name)
     # Under the sanitizers GCC 12 takes the states of <regex> for uninitialised.
     target_compile_options(${name} PRIVATE -Wno-maybe-uninitialized)
   endif()
+  target_link_options(${name} PRIVATE ${calvoro_test_linker})
   target_link_libraries(${name} PRIVATE calvoro_options GTest::gtest GTest::gtest_main ${ARG_LIBRARIES})
   target_include_directories(${name} PRIVATE "${CALVORO_TESTS_ROOT}")
   target_compile_definitions(${name} PRIVATE CALVORO_SOURCE_DIR="${calvoro_SOURCE_DIR}")
@@ -68,6 +79,19 @@ function(calvoro_test name)
   endif()
 endfunction()
 
+# What moc makes of a test that includes it. CMake's own way (AUTOMOC) starts two programs and compiles one more file
+# for each test program, as it cannot know which sources need it.
+function(calvoro_moc_of_test name source)
+  cmake_path(GET source STEM stem)
+  file(STRINGS ${source} wanted REGEX "^#include \"${stem}\\.moc\"")
+  if(wanted)
+    set(made "${CMAKE_CURRENT_BINARY_DIR}/${name}_moc")
+    qt_generate_moc(${source} "${made}/${stem}.moc" TARGET ${name})
+    target_sources(${name} PRIVATE "${made}/${stem}.moc")
+    target_include_directories(${name} PRIVATE "${made}")
+  endif()
+endfunction()
+
 #   calvoro_window_test(frmMainTest SOURCES ... MAY_USE ...)   one Qt Test program, run offscreen
 #
 # X11 runs it on a display of the X Window System instead, for what no other has.
@@ -78,16 +102,16 @@ function(calvoro_window_test name)
   endif()
   math(EXPR ARG_TIMEOUT "${CALVORO_TEST_PATIENCE} * ${ARG_TIMEOUT}")
   add_executable(${name} ${ARG_SOURCES})
-  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_options(${name} PRIVATE ${calvoro_test_linker})
   target_link_libraries(${name} PRIVATE calvoro_options calvoro_qt_options Qt6::Test Qt6::Widgets ${ARG_LIBRARIES})
   target_include_directories(${name} PRIVATE "${CALVORO_TESTS_ROOT}")
   target_compile_definitions(${name} PRIVATE CALVORO_SOURCE_DIR="${calvoro_SOURCE_DIR}")
   target_compile_options(${name} PRIVATE ${calvoro_window_test_options})
   calvoro_use(${name} ${ARG_MAY_USE})
   calvoro_use_precompiled(${name} window_tests)
-  # Nearly always empty, as the tests include what moc makes of them.
-  set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp"
-    PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+  foreach(source IN LISTS ARG_SOURCES)
+    calvoro_moc_of_test(${name} ${source})
+  endforeach()
   set(platform offscreen)
   set(display)
   if(ARG_X11)
