@@ -1,7 +1,5 @@
 #include "cli/Conversion.h"
 
-#include "datetext/Tags.h"
-
 namespace calvoro {
 
 Conversion::Conversion(const ConvertOptions& options)
@@ -11,7 +9,7 @@ std::string Conversion::Convert(std::string_view text, OutputStream& output) con
     const AutoResult answer = reader_.Read(text);
     if (answer.result.status != ParseStatus::Valid) return RefusalText(answer, text);
     const std::int32_t jdn = answer.result.jdn;
-    if (!writer_.CanWrite(jdn)) return "out of range in " + std::string(TagText(*writer_.FirstUnable(jdn)));
+    if (!writer_.CanWrite(jdn)) return writer_.RefusalText(jdn);
 
     output.AppendWith(writer_.Room(), [&](char* to) { return writer_.Write(jdn, to); });
     return {};

@@ -1,7 +1,7 @@
 #include "cli/RecordWriter.h"
 
+#include <algorithm>
 #include <cstring>
-#include <string>
 
 #include "calendar/Weekday.h"
 #include "cli/CsvField.h"
@@ -68,11 +68,10 @@ RecordWriter::RecordWriter(const ConvertOptions& options)
     isOneDate_ = fields_.size() == 1 && !options.weekday && !options.tag && !fields_.front().isQuotable;
 }
 
-std::optional<CalendarNumber> RecordWriter::FirstUnable(std::int32_t jdn) const {
-    for (const Field& field : fields_) {
-        if (!field.writer.CanWrite(jdn)) return field.writer.Notation();
-    }
-    return std::nullopt;
+std::string RecordWriter::RefusalText(std::int32_t jdn) const {
+    const auto unable =
+        std::ranges::find_if(fields_, [jdn](const Field& field) { return !field.writer.CanWrite(jdn); });
+    return "out of range in " + std::string(TagText(unable->writer.Notation()));
 }
 
 char* RecordWriter::WriteFields(std::int32_t jdn, char* to) const {

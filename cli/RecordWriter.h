@@ -5,11 +5,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "calendar/CalendarNumber.h"
 #include "cli/ConvertOptions.h"
 #include "quicktext/QuickWriter.h"
 
@@ -22,8 +21,9 @@ public:
     /// Whether every target can write a day, where that matters.
     bool CanWrite(std::int32_t jdn) const { return !hasLimits_ || IsWithinOrdinalLimits(jdn); }
 
-    /// The first target that cannot write a day.
-    std::optional<CalendarNumber> FirstUnable(std::int32_t jdn) const;
+    /// Why a day cannot be written: "out of range in ORD", with the tag of the first target that cannot.
+    /// jdn  CanWrite must not hold
+    std::string RefusalText(std::int32_t jdn) const;
 
     /// How many bytes Write may touch, however many targets there are.
     std::size_t Room() const { return room_; }

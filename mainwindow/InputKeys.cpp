@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "datetext/KeyFilter.h"
+#include "windows/EnterKey.h"
 
 namespace calvoro {
 namespace {
@@ -29,10 +30,6 @@ bool TypesText(const QKeyEvent& event) {
     if (first.category() == QChar::Other_Format) return true;
     if ((event.modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier) return false;
     return first.isPrint() || first.category() == QChar::Other_PrivateUse || first.isHighSurrogate();
-}
-
-bool IsEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -58,7 +55,7 @@ bool InputKeys::eventFilter(QObject* watched, QEvent* event) {
 // returns whether the key is swallowed
 bool InputKeys::HandleKey(InputBox box, const QKeyEvent& event) {
     const int key = event.key();
-    if (IsEnter(key)) {
+    if (IsEnterKey(key)) {
         // Held down it computes once.
         if (!event.isAutoRepeat()) Q_EMIT EnterPressed();
         return true;

@@ -16,6 +16,7 @@
 #include "mainwindow/settings/SettingsFile.h"
 #include "text/NumberedTexts.h"
 #include "windows/AccessibleRole.h"
+#include "windows/EnterKey.h"
 #include "windows/ManualAddress.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
@@ -200,7 +201,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::keyPressEvent(QKeyEvent* event) {
     // Enter on a control that makes nothing of it, such as an option.
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnterKey(event->key())) {
         if (!event->isAutoRepeat()) OnCompute();
     } else {
         QWidget::keyPressEvent(event);

@@ -18,6 +18,7 @@
 #include "windows/Controls.h"
 #include "windows/CrLfText.h"
 #include "windows/CrLfTextBox.h"
+#include "windows/EnterKey.h"
 #include "windows/FixedPitchBox.h"
 #include "windows/Mnemonics.h"
 #include "windows/Placement.h"
@@ -46,10 +47,6 @@ constexpr int kFirstHeight = 6000;
 constexpr int kTextMargin = 150;    // left, right, above and below the text
 constexpr int kButtonMargin = 330;  // left and right of the buttons
 constexpr int kBelowButtons = 700;  // title bar included
-
-bool IsEnter(const QKeyEvent& key) {
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
-}
 
 }  // namespace
 
@@ -183,7 +180,7 @@ bool frmLargeDisplay::Stopped() const {
 
 bool frmLargeDisplay::eventFilter(QObject* watched, QEvent* event) {
     if (watched == txbOutput && event->type() == QEvent::KeyPress && txbOutput->textCursor().hasSelection() &&
-        IsEnter(*static_cast<QKeyEvent*>(event))) {
+        IsEnterKey(static_cast<QKeyEvent*>(event)->key())) {
         OnCopyToClipboard();
         return true;
     }

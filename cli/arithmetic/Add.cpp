@@ -38,9 +38,7 @@ char* Add::Answer(std::string_view date, std::string_view number, char* to, Pair
         return to;
     }
     if (!writer_.CanWrite(state_.SecondDateRecord.jdn)) {
-        refusal = {"the date found is out of range in " +
-                       std::string(TagText(*writer_.FirstUnable(state_.SecondDateRecord.jdn))),
-                   date};
+        refusal = {"the date found is " + writer_.RefusalText(state_.SecondDateRecord.jdn), date};
         return to;
     }
     return writer_.Write(state_.SecondDateRecord.jdn, to);

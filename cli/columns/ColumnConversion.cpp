@@ -100,10 +100,7 @@ void ColumnConversion::ConvertColumn(std::size_t field, const Place& place) {
     const std::string_view text = columns_.Text(field);
     const AutoResult day = reader_.Read(text);
     if (day.result.status != ParseStatus::Valid) return Refuse(RefusalText(day, text), text, place);
-    if (!writer_.CanWrite(day.result.jdn)) {
-        return Refuse("out of range in " + std::string(TagText(*writer_.FirstUnable(day.result.jdn))), text,
-                      place);
-    }
+    if (!writer_.CanWrite(day.result.jdn)) return Refuse(writer_.RefusalText(day.result.jdn), text, place);
     filter_.Output().AppendWith(writer_.Room(), [&](char* to) { return writer_.Write(day.result.jdn, to); });
 }
 

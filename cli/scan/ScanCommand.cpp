@@ -8,7 +8,6 @@
 #include "cli/RecordWriter.h"
 #include "cli/scan/BlockReader.h"
 #include "cli/scan/DateScanner.h"
-#include "datetext/Tags.h"
 
 namespace calvoro {
 namespace {
@@ -75,8 +74,7 @@ private:
             return;
         }
         Pass(text);
-        filter_.Refuse("out of range in " + std::string(TagText(*writer_.FirstUnable(date.jdn))), text,
-                       place);
+        filter_.Refuse(writer_.RefusalText(date.jdn), text, place);
         filter_.EndLine({});
     }
 

@@ -12,6 +12,7 @@
 #include "platform/WriteAll.h"
 #include "platform/posix/LinkTarget.h"
 #include "platform/posix/NoFileSizeSignal.h"
+#include "platform/posix/Replaceable.h"
 
 namespace calvoro {
 namespace {
@@ -21,15 +22,6 @@ mode_t UsualPermissions() {
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return 0666 & ~mask;
-}
-
-/// For root every file can be written, so the file's own word counts too.
-int WhyNotReplaceable(const std::string& path, const struct stat& status) {
-    constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
-    if (S_ISDIR(status.st_mode)) return EISDIR;
-    if (!S_ISREG(status.st_mode)) return EINVAL;
-    if ((status.st_mode & kAnyWriter) == 0) return EACCES;
-    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
 class PosixReplacementFile final : public ReplacementFile {

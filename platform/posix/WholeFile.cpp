@@ -17,6 +17,7 @@
 #include "platform/WriteAll.h"
 #include "platform/posix/LinkTarget.h"
 #include "platform/posix/NoFileSizeSignal.h"
+#include "platform/posix/Replaceable.h"
 
 namespace calvoro {
 
@@ -119,12 +120,6 @@ std::string FolderOf(const std::string& path) {
     return folder.empty() ? "." : folder;
 }
 
-/// For root every file can be written, so the file's own word counts too.
-bool IsWritable(const std::string& path, const struct stat& status) {
-    constexpr mode_t kAnyWriter = S_IWUSR | S_IWGRP | S_IWOTH;
-    return (status.st_mode & kAnyWriter) != 0 && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
 struct Target {
     bool mayBeReplaced = false;
     std::optional<struct stat> old;  // when there is a file
@@ -133,7 +128,7 @@ struct Target {
 Target Examine(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) return {errno == ENOENT, {}};
-    return {S_ISREG(status.st_mode) && IsWritable(path, status), status};
+    return {WhyNotReplaceable(path, status) == 0, status};
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <QItemSelectionModel>
 #include <algorithm>
 
+#include "windows/EnterKey.h"
+
 namespace calvoro {
 
 ListTable::ListTable(QWidget* parent) : QTableView(parent) {
@@ -41,8 +43,7 @@ QSize ListTable::sizeHint() const {
 }
 
 void ListTable::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && !event->isAutoRepeat() && currentIndex().isValid()) {
+    if (IsEnterKey(event->key()) && !event->isAutoRepeat() && currentIndex().isValid()) {
         Q_EMIT ColumnChosen(currentIndex().column());
         event->accept();
         return;
