@@ -115,11 +115,11 @@ class Desktop:
         """Waits for the end of the program and returns its exit code."""
         return process.wait(timeout=PATIENCE)
 
-    def quit(self, process):
-        """Presses Ctrl+Q in the main window, again while something modal is in its way."""
+    def quit(self, process, window=None):
+        """Presses Ctrl+Q in the main window, or in this one of several, again while something modal is in its way."""
         def ended():
             for number, name in self.windows().items():
-                if name == "Calvoro 13.0":
+                if number == window or (window is None and name == "Calvoro 13.0"):
                     self.focus(number)
                     self.keys("ctrl+q")
             try:

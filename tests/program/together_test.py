@@ -8,7 +8,6 @@ together_test.py PROGRAM WINDOW_KEYS CASE  runs one
 import itertools
 import re
 import signal
-import subprocess
 import time
 import unittest
 
@@ -39,17 +38,8 @@ class Together(unittest.TestCase):
         self.desktop.keys("Return")
         return process, window
 
-    def close(self, process, window):
-        def ended():
-            self.desktop.focus(window)
-            self.desktop.keys("ctrl+q")
-            try:
-                process.wait(timeout=1)
-            except subprocess.TimeoutExpired:
-                return False
-            return True
-        wait_for("the program's end", ended)
-        self.assertEqual(process.returncode, 0)
+    def quit(self, process, window):
+        self.assertEqual(self.desktop.quit(process, window), 0)
 
     def output(self):
         """The saved output, its lines, and the first date that was saved with it."""
@@ -63,7 +53,7 @@ class Together(unittest.TestCase):
             with self.subTest(order):
                 running = {day: self.compute(day) for day in range(1, count + 1)}
                 for day in order:
-                    self.close(*running[day])
+                    self.quit(*running[day])
                 lines = self.output().split("\r\n")
                 self.assertEqual(lines[0] + "\r\n", self.START)
                 self.assertEqual([line[:26] for line in lines[1:-1]],
@@ -88,8 +78,8 @@ class Together(unittest.TestCase):
                 time.sleep(step * 0.02)
                 killed.kill()
                 self.desktop.end(killed)
-                self.close(*third)
-                self.close(*second)
+                self.quit(*third)
+                self.quit(*second)
                 output = self.output()
                 self.assertTrue(output.startswith(long_start))
                 lines = output[len(long_start):].split("\r\n")[:-1]
@@ -103,8 +93,8 @@ class Together(unittest.TestCase):
         known = set(self.desktop.windows())
         process = self.desktop.launch()
         window = wait_for("one more window", lambda: next(iter(set(self.desktop.windows()) - known), None))
-        self.close(*saving)
-        self.close(process, window)
+        self.quit(*saving)
+        self.quit(process, window)
         # The start was this one's to drop, the other's result was not.
         self.assertEqual([line[:26] for line in self.output().split("\r\n")],
                          ["2021-03-01 CE plus 10 days", ""])
