@@ -52,12 +52,23 @@ QSize ScrollingPage::minimumSizeHint() const {
 }
 
 bool ScrollingPage::eventFilter(QObject* watched, QEvent* event) {
-    // The page needs another size: so does the window. The layouts inside the page's own learn of it first.
-    if (watched == widget() && event->type() == QEvent::LayoutRequest && Page().layout() != nullptr) {
+    const bool isLaidOut = watched == widget() && Page().layout() != nullptr &&
+                           (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize);
+    const bool wasInSight = focusIsInSight_;
+    if (isLaidOut && event->type() == QEvent::LayoutRequest) {
+        // The page needs another size: so does the window. The layouts inside the page's own learn first.
         Page().layout()->activate();
         updateGeometry();
     }
-    return QScrollArea::eventFilter(watched, event);
+    const bool isDone = QScrollArea::eventFilter(watched, event);
+    // Other words may have moved what is worked with; what the user scrolled away stays there.
+    if (isLaidOut && wasInSight) ShowFocus(Page().focusWidget());
+    return isDone;
+}
+
+void ScrollingPage::scrollContentsBy(int dx, int dy) {
+    QScrollArea::scrollContentsBy(dx, dy);
+    LookForFocus();
 }
 
 // What has the focus is shown in one way, however it got it: by ShowFocus, and not by the toolkit's area too.
@@ -68,12 +79,18 @@ bool ScrollingPage::focusNextPrevChild(bool next) {
 void ScrollingPage::ShowFocus(const QWidget* focused) {
     if (focused == nullptr || !Page().isAncestorOf(focused)) return;
     // It would move away under a click, which counts where the button is let go above it.
-    if (QGuiApplication::mouseButtons() != Qt::NoButton && focused->underMouse()) return;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton && focused->underMouse()) return LookForFocus();
     const QRect place(focused->mapTo(&Page(), QPoint()), focused->size());
     constexpr int kMargin = 12;  // pixels of what stands around it
     // Its far corner first, so that of a control larger than the window the beginning is seen.
     ensureVisible(place.right(), place.bottom(), kMargin, kMargin);
     ensureVisible(place.left(), place.top(), kMargin, kMargin);
+    LookForFocus();
+}
+
+void ScrollingPage::LookForFocus() {
+    const QWidget* const focused = Page().focusWidget();
+    focusIsInSight_ = focused != nullptr && !focused->visibleRegion().isEmpty();
 }
 
 QSize ScrollingPage::AsRoomAllows(QSize size) const {

@@ -25,10 +25,14 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
     void ShowFocus(const QWidget* focused);
+    void LookForFocus();
     QSize AsRoomAllows(QSize size) const;
+
+    bool focusIsInSight_ = false;
 };
 
 }  // namespace calvoro

@@ -14,12 +14,7 @@ std::string Focus(const World& world, const Before& before) {
     const std::string name = FromQt(NameOf(*focused));
     if (focused->window() != active) return name + " has the focus, but is not in the active window";
     if (!focused->isVisible() || !focused->isEnabled()) return name + " has the focus, but cannot be used";
-    // Other words take other room: what stands behind them moves, and the focus with it.
-    const ComputeOptions options = ComputeOptionsSeen(world);
-    const bool otherWords = options.texts.InterfaceLanguage != before.options.texts.InterfaceLanguage ||
-                            options.text.hyphen != before.options.text.hyphen ||
-                            options.text.dateFormat != before.options.text.dateFormat;
-    const bool moved = (focused != before.focus && !otherWords) || world.startedAnew;
+    const bool moved = focused != before.focus || world.startedAnew;
     if (moved && focused->visibleRegion().isEmpty()) {
         const QRect place(focused->mapTo(active, QPoint()), focused->size());
         const auto number = [](int pixels) { return std::to_string(pixels); };
