@@ -1,7 +1,7 @@
 #include "mainwindow/frmMain.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLibraryInfo>
 #include <QShortcut>
@@ -209,6 +209,8 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmMain::OnCompute() {
+    // While a computation asks or tells something, a screen reader can still press the button behind it.
+    if (QApplication::activeModalWidget() != nullptr) return;
     const ClickOutcome outcome = cmdCompute_Click(computeWindow_, state_.compute);
     const std::string appended = computeWindow_.TakeAppended();
     if (outcome == ClickOutcome::Result) announcer_->Announce(appended);

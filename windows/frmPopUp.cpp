@@ -1,6 +1,7 @@
 #include "windows/frmPopUp.h"
 
 #include <QEvent>
+#include <QEventLoop>
 #include <QFrame>
 #include <QScreen>
 #include <algorithm>
@@ -108,7 +109,14 @@ void frmPopUp::Place(std::int16_t width, std::int16_t height, int top, int left)
 void frmPopUp::ShowFor(std::int16_t interval) {
     Timer1->stop();
     if (interval > 0) Timer1->start(interval);
-    exec();
+    if (!isVisible()) {
+        exec();
+        return;
+    }
+    // It stood already, and whoever showed it waits for its end: a screen reader can press a button behind it.
+    QEventLoop untilItIsGone;
+    connect(this, &QDialog::finished, &untilItIsGone, &QEventLoop::quit);
+    untilItIsGone.exec();
 }
 
 }  // namespace calvoro

@@ -1,6 +1,7 @@
 // The dialog that asks which of three filled boxes to empty.
 
 #include <QRadioButton>
+#include <QRegularExpression>
 
 #include "tests/mainwindow/MainWindowFixture.h"
 
@@ -94,6 +95,22 @@ private Q_SLOTS:
         });
         QCOMPARE(main.Boxes(), QStringList({"2024-03-15", "10", "2024-03-25"}));
         QCOMPARE(main.Output(), QString());
+    }
+
+    // A screen reader can press a button behind the dialog.
+    void WhatIsAskedAlreadyIsNotAskedAgain() {
+        QTest::failOnWarning(QRegularExpression(u"Recursive"_s));
+        MainWindowFixture main;
+        main.Start();
+        bool stayed = false;
+        ComputeWithThreeBoxes(main, [&main, &stayed](QWidget& dialog) {
+            main.Button("cmdCompute").click();
+            stayed = dialog.isVisible() && main.Output().isEmpty();
+            Answering(u"optClearDateDiff"_s)(dialog);
+        });
+        QVERIFY(stayed);
+        QCOMPARE(main.Boxes(), QStringList({"2024-03-15", "", "2024-03-25"}));
+        QCOMPARE(main.Output().count(u"days"_s), 1);
     }
 
     void AnEnterThatIsStillHeldDownIsNoAnswer() {

@@ -1,6 +1,7 @@
 #include "windows/frmPopUp.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QScreen>
 #include <functional>
 
@@ -88,6 +89,25 @@ private Q_SLOTS:
         QVERIFY(watch.elapsed() < kGuardTime);
         QVERIFY(!note.isVisible());
         QVERIFY(!note.Timer().isActive());
+    }
+
+    // A screen reader can press a button behind the note.
+    void ANoteThatIsAskedForWhileOneIsShownTakesItsPlace() {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        Note note;
+        SeenNote first;
+        SeenNote second;
+        bool wasOpenAfterTheSecond = true;
+        note.WhenShown(first, [&note, &second, &wasOpenAfterTheSecond] {
+            second = note.Press([&note] { note.PopUp("again", 1500, 300, 30000, 0, 0); });
+            wasOpenAfterTheSecond = note.isVisible();
+        });
+        note.PopUp("Copied", 1500, 300, 20000, 0, 0);
+        QCOMPARE(first.message, QStringLiteral("Copied"));
+        QCOMPARE(second.message, QStringLiteral("again"));
+        QCOMPARE(second.interval, 30000);
+        QVERIFY(!wasOpenAfterTheSecond);
+        QVERIFY(!note.isVisible());
     }
 
     void EscClosesToo() {
