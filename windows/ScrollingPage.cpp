@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "windows/AccessibleScrolling.h"
 #include "windows/Placement.h"
 
 namespace calvoro {
@@ -26,6 +27,7 @@ ScrollingPage::ScrollingPage(QWidget& window) : QScrollArea(&window) {
     setObjectName(QStringLiteral("scrollingPage"));
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
+    MakeAccessibleSafely(*this);
     setWidgetResizable(true);
     setWidget(new PageThatGivesWay);
     auto* fill = new QVBoxLayout(&window);

@@ -11,6 +11,7 @@ ended it. Run by the distribution's Python, which has the modules for the access
 
 import argparse
 import collections
+import contextlib
 import os
 import pathlib
 import random
@@ -90,22 +91,37 @@ class Player:
         text = pathlib.Path(self.errors.name).read_text(errors="replace")
         return [line for line in text.splitlines() if not line.startswith(TOOLKIT_LINES)]
 
+    def close_others(self, end):
+        """Leaves every window but the main one, from the last on."""
+        from seen import Broken
+        while any(title != MAIN for _, title, _ in self.screen.windows()):
+            for number, _, _ in reversed(self.screen.windows()):
+                self.touch.focus(number)
+                self.touch.keys("Escape")
+                self.touch.keys("Escape")
+            if time.monotonic() > end:
+                raise Broken(f"windows that do not close: {self.screen.windows()}")
+            time.sleep(0.2)
+
     def end(self):
         """Ends the program and holds what it saved against what it showed."""
         from seen import Broken, check
         if self.process.poll() is None:
             end = time.monotonic() + 60
-            while any(title != MAIN for _, title, _ in self.screen.windows()):
-                for number, _, _ in reversed(self.screen.windows()):
-                    self.touch.focus(number)
-                    self.touch.keys("Escape")
-                    self.touch.keys("Escape")
-                if time.monotonic() > end:
-                    raise Broken(f"windows that do not close: {self.screen.windows()}")
-                time.sleep(0.2)
+            self.close_others(end)
             self.seen.answers()
             shown = check(self.seen)
-            code = self.desktop.quit(self.process)
+            while self.process.poll() is None:
+                if time.monotonic() > end:
+                    raise Broken(f"it does not end, with {self.screen.windows()}")
+                # A window that an event has asked for may come late.
+                self.close_others(end)
+                for number, _, _ in self.screen.windows():
+                    self.touch.focus(number)
+                    self.touch.keys("ctrl+q")
+                with contextlib.suppress(subprocess.TimeoutExpired):
+                    self.process.wait(timeout=1)
+            code = self.process.returncode
             saved = boxes_and_checks(self.desktop.settings_file.read_bytes())
             if not shown["checks"][-1]:
                 shown["boxes"] = saved["boxes"]
