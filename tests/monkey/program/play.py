@@ -103,14 +103,25 @@ class Player:
                 raise Broken(f"windows that do not close: {self.screen.windows()}")
             time.sleep(0.2)
 
+    def settled(self, end):
+        """What the main window shows when the last keys have reached it: they and questions take different ways."""
+        from seen import Broken, check
+        before, shown = None, check(self.seen)
+        while shown != before:
+            if time.monotonic() > end:
+                raise Broken(f"what is shown does not settle: {before}, {shown}")
+            time.sleep(0.5)
+            before, shown = shown, check(self.seen)
+        return shown
+
     def end(self):
         """Ends the program and holds what it saved against what it showed."""
-        from seen import Broken, check
+        from seen import Broken
         if self.process.poll() is None:
             end = time.monotonic() + 60
             self.close_others(end)
             self.seen.answers()
-            shown = check(self.seen)
+            shown = self.settled(end)
             while self.process.poll() is None:
                 if time.monotonic() > end:
                     raise Broken(f"it does not end, with {self.screen.windows()}")
