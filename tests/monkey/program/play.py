@@ -29,6 +29,7 @@ from touch import Touch  # noqa: E402
 
 MAIN = "Calvoro 13.0"
 LOOK_EVERY, FOCUS_EVERY, END_EVERY = 50, 10, 1000
+LAST_TOLD = 12  # events, of what is found
 # Of fonts that lack a script, and of cells of a table that a tool asks for when they are gone.
 TOOLKIT_LINES = ("OpenType support missing for", "QAccessibleTable::child: Invalid index", "qt.accessibility.atspi")
 
@@ -106,6 +107,7 @@ class Player:
     def settled(self, end):
         """What the main window shows when the last keys have reached it: they and questions take different ways."""
         from seen import Broken, check
+        self.touch.wait()
         before, shown = None, check(self.seen)
         while shown != before:
             if time.monotonic() > end:
@@ -170,7 +172,7 @@ class Player:
 
     def play(self, events):
         from seen import Broken, GLib, check
-        words = "the start"
+        last = collections.deque(["the start"], maxlen=LAST_TOLD)
         number = 0
         try:
             self.start()
@@ -178,7 +180,7 @@ class Player:
                 if self.stopping:
                     events = number - 1
                     break
-                words = self.event(number)
+                last.append(self.event(number))
                 self.unless_ended(self.seen.answers)
                 if self.said():
                     raise Broken(f"on the standard error: {self.said()[:3]}")
@@ -190,7 +192,7 @@ class Player:
                     self.start()
             self.end()
         except (Broken, AssertionError, GLib.Error) as broken:
-            print(f"seed {self.seed}, event {number}: {words}\n{broken}")
+            print(f"seed {self.seed}, event {number}:", *last, broken, sep="\n")
             return False
         kinds = ", ".join(f"{kind} {count}" for kind, count in sorted(self.counts.items()))
         print(f"seed {self.seed}: {events} events, nothing found, {self.ends} ends: {kinds}")

@@ -1,6 +1,9 @@
 """Keys, clicks and clipboard of one who plays, fast: one xdotool that is told line by line."""
 
+import contextlib
 import subprocess
+
+from desktop import wait_for
 
 
 class Touch:
@@ -16,12 +19,24 @@ class Touch:
 
     def tell(self, *lines):
         for line in lines:
-            try:
-                self.tool.stdin.write(line + "\n")
-            except BrokenPipeError:  # it gives up when a window has gone
-                self.tool.wait()
+            if self.tool.poll() is not None:  # it gives up when a window has gone
                 self.desktop.started.remove(self.tool)
                 self.begin()
+            with contextlib.suppress(BrokenPipeError):
+                self.tool.stdin.write(line + "\n")
+
+    def wait(self):
+        """Returns when all that was told has been done."""
+        done = self.desktop.folder / "touched"
+        done.unlink(missing_ok=True)
+        line = f"exec --sync touch {done}"
+        self.tell(line)
+
+        def is_done():
+            if self.tool.poll() is not None:
+                self.tell(line)
+            return done.exists()
+        wait_for("the hands", is_done)
 
     def keys(self, *keys):
         self.tell("key --delay 1 " + " ".join(keys))
