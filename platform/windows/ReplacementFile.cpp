@@ -2,17 +2,16 @@
 
 #include <windows.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <cstddef>
 
+#include "platform/windows/HandleOutput.h"
 #include "platform/windows/LinkTarget.h"
 #include "platform/windows/WideText.h"
 
 namespace calvoro {
 namespace {
 
-int ErrorNumberOf(DWORD error) {
+int FileErrorNumber(DWORD error) {
     switch (error) {
         case ERROR_FILE_NOT_FOUND:
         case ERROR_PATH_NOT_FOUND: return ENOENT;
@@ -30,7 +29,7 @@ int WhyNotReplaceable(const std::wstring& path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         const DWORD error = ::GetLastError();
-        return error == ERROR_FILE_NOT_FOUND ? 0 : ErrorNumberOf(error);
+        return error == ERROR_FILE_NOT_FOUND ? 0 : FileErrorNumber(error);
     }
     if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return EISDIR;
     return (attributes & (FILE_ATTRIBUTE_DEVICE | FILE_ATTRIBUTE_READONLY)) != 0 ? EACCES : 0;
@@ -48,7 +47,7 @@ public:
             const DWORD error = ::GetLastError();
             constexpr int kAttempts = 100;
             if (handle_ == INVALID_HANDLE_VALUE && (error != ERROR_FILE_EXISTS || attempt == kAttempts)) {
-                error_ = ErrorNumberOf(error);
+                error_ = FileErrorNumber(error);
             }
         }
     }
@@ -56,30 +55,23 @@ public:
     ~WindowsReplacementFile() override { GiveUp(error_); }
 
     void Write(std::string_view bytes) override {
-        constexpr std::size_t kMostAtOnce = std::size_t{1024} * 1024 * 1024;
-        while (error_ == 0 && !bytes.empty()) {
-            DWORD written = 0;
-            const auto most = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
-            if (::WriteFile(handle_, bytes.data(), most, &written, nullptr) == 0) {
-                GiveUp(ErrorNumberOf(::GetLastError()));
-                return;
-            }
-            bytes.remove_prefix(written);
-        }
+        if (error_ != 0) return;
+        const DWORD error = WriteToHandle(handle_, bytes);
+        if (error != ERROR_SUCCESS) GiveUp(FileErrorNumber(error));
     }
 
     void Commit() override {
         if (error_ != 0) return;
         constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
         if (::FlushFileBuffers(handle_) == 0) {
-            GiveUp(ErrorNumberOf(::GetLastError()));
+            GiveUp(FileErrorNumber(::GetLastError()));
             return;
         }
         ::CloseHandle(handle_);
         handle_ = INVALID_HANDLE_VALUE;
         // One step, unlike ReplaceFile, in which the name is free for a moment.
         if (::MoveFileExW(written_.c_str(), target_.c_str(), kHow) == 0) {
-            error_ = ErrorNumberOf(::GetLastError());
+            error_ = FileErrorNumber(::GetLastError());
             ::DeleteFileW(written_.c_str());
         }
     }

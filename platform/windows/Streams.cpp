@@ -12,13 +12,11 @@
 #include <array>
 #include <cerrno>
 
+#include "platform/windows/HandleOutput.h"
 #include "platform/windows/WideText.h"
 
 namespace calvoro {
 namespace {
-
-// The C library counts bytes in an unsigned int.
-constexpr std::size_t kMostAtOnce = std::size_t{1024} * 1024 * 1024;
 
 HANDLE HandleOf(int descriptor) {
     const std::intptr_t handle = ::_get_osfhandle(descriptor);

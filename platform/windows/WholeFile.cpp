@@ -7,13 +7,12 @@
 #include <cstddef>
 #include <string_view>
 
+#include "platform/windows/HandleOutput.h"
 #include "platform/windows/LinkTarget.h"
 #include "platform/windows/WideText.h"
 
 namespace calvoro {
 namespace {
-
-constexpr std::size_t kMostAtOnce = std::size_t{1024} * 1024 * 1024;
 
 class File {
 public:
@@ -38,14 +37,8 @@ private:
 bool WriteNewFile(const std::wstring& path, std::string_view content) {
     File file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                             nullptr));
-    if (!file.IsOpen()) return false;
-    while (!content.empty()) {
-        DWORD written = 0;
-        const auto most = static_cast<DWORD>(std::min(content.size(), kMostAtOnce));
-        if (::WriteFile(file.Handle(), content.data(), most, &written, nullptr) == 0) return false;
-        content.remove_prefix(written);
-    }
-    return ::FlushFileBuffers(file.Handle()) != 0 && file.Close();
+    return file.IsOpen() && WriteToHandle(file.Handle(), content) == ERROR_SUCCESS &&
+           ::FlushFileBuffers(file.Handle()) != 0 && file.Close();
 }
 
 /// A turn with other programs that replace the same file; the end of a killed one ends its turn too. Who has

@@ -3,15 +3,15 @@
 #include <io.h>
 #include <windows.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <cstddef>
 #include <cstdint>
+
+#include "platform/windows/HandleOutput.h"
 
 namespace calvoro {
 namespace {
 
-int ErrorNumberOf(DWORD error) {
+int StreamErrorNumber(DWORD error) {
     switch (error) {
         case ERROR_ACCESS_DENIED:  // of a file that was opened for reading
         case ERROR_INVALID_HANDLE: return EBADF;
@@ -29,19 +29,10 @@ int ErrorNumberOf(DWORD error) {
 // Not by the C library, which takes a pipe whose reader went away in the middle of a block for an argument
 // that is not valid.
 int WriteAll(int descriptor, std::string_view bytes) {
-    constexpr std::size_t kMostAtOnce = std::size_t{1024} * 1024 * 1024;
     const std::intptr_t handle = ::_get_osfhandle(descriptor);
     if (handle < 0) return EBADF;
-    while (!bytes.empty()) {
-        const auto most = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
-        DWORD written = 0;
-        if (::WriteFile(reinterpret_cast<HANDLE>(handle), bytes.data(), most, &written, nullptr) == 0) {
-            return ErrorNumberOf(::GetLastError());
-        }
-        if (written == 0) return EIO;
-        bytes.remove_prefix(written);
-    }
-    return 0;
+    const DWORD error = WriteToHandle(reinterpret_cast<HANDLE>(handle), bytes);
+    return error == ERROR_SUCCESS ? 0 : StreamErrorNumber(error);
 }
 
 }  // namespace calvoro

@@ -44,7 +44,7 @@ private:
     friend class LinesBuilder;
 
     struct Mark {
-        std::uint64_t place;
+        std::size_t place;
         std::uint32_t row;
     };
 
