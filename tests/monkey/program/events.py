@@ -23,11 +23,9 @@ class Hands:
     def look(self):
         """Takes in the controls of all windows that are shown."""
         self.controls = []
-        for i in range(self.seen.application.get_child_count()):
-            window = self.seen.application.get_child_at_index(i)
-            if window is not None and has(window, Atspi.StateType.VISIBLE):
-                self.controls += [control for control in walk(window)
-                                  if control.get_name() not in ("Quit", "Beenden")]
+        for window in self.seen.windows():
+            self.controls += [control for control in walk(window)
+                              if control.get_name() not in ("Quit", "Beenden")]
 
     def key(self, dice):
         key = dice.choice(NAMED)

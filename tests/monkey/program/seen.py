@@ -61,12 +61,19 @@ class Seen:
                 continue
         return None
 
-    def window(self, name="Calvoro 13.0"):
+    def windows(self):
+        """The windows that are shown; one that goes meanwhile is left out."""
+        self.application.clear_cache()
         for i in range(self.application.get_child_count()):
-            window = self.application.get_child_at_index(i)
-            if window is not None and window.get_name() == name:
-                return window
-        return None
+            try:
+                window = self.application.get_child_at_index(i)
+                if window is not None and has(window, Atspi.StateType.VISIBLE):
+                    yield window
+            except GLib.Error:
+                continue
+
+    def window(self, name="Calvoro 13.0"):
+        return next((window for window in self.windows() if window.get_name() == name), None)
 
     def answers(self):
         """Returns when the program has answered a question, behind all that was before it."""
