@@ -110,7 +110,8 @@ def check(seen):
     for control in seen.main_controls():
         role, name = control.get_role_name(), control.get_name()
         if role == "radio button":
-            group = control.get_parent().get_name()
+            parent = control.get_parent()
+            group = "" if parent is None else parent.get_name()
             groups.setdefault(group, {})[name] = has(control, Atspi.StateType.CHECKED)
         elif role == "check box":
             checked[name] = has(control, Atspi.StateType.CHECKED)
