@@ -165,7 +165,7 @@ TEST_P(QuickTables, AreConvertedUpToTheLastWholeLineWhereverABlockEnds) {
         const std::vector<std::string> lines = RandomLines(random, 12);
         std::string text;
         for (const std::string& line : lines) text += line;
-        std::size_t leastLines = 0;
+        std::uint64_t leastLines = 0;
         for (std::size_t size = 0; size <= text.size(); ++size) {
             const Answered answered = Answer(columns, text.substr(0, size));
             const std::vector<std::string> whole(lines.begin(),
