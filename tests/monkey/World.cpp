@@ -69,8 +69,10 @@ void World::Settle() {
     QCoreApplication::processEvents();
     if (const auto* list = Open<frmList>()) WaitForJobs(*list);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    if (QApplication::activeWindow() == nullptr && QApplication::activePopupWidget() == nullptr &&
-        main.window != nullptr) {
+    // What a window manager does when the active window has gone; without a screen it may stay active unseen.
+    const QWidget* const active = QApplication::activeWindow();
+    const bool isGone = active == nullptr || !active->isVisible();
+    if (isGone && QApplication::activePopupWidget() == nullptr && main.window != nullptr) {
         QWidget* const modal = QApplication::activeModalWidget();
         (modal != nullptr ? modal : main.window.get())->activateWindow();
     }
