@@ -55,7 +55,7 @@ void ActAsAssistiveTool(World& world, Dice& dice) {
     if (box != nullptr && dice.OneIn(2)) {
         const QString text = OddText(world, dice);
         world.Do(QStringLiteral("assistive tool writes %1 into ").arg(text.left(60)) + NameOf(*control));
-        world.typedInto = box;
+        world.typedInto.insert(box);
         tool->setText(QAccessible::Value, text);
         return;
     }

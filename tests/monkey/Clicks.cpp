@@ -67,7 +67,7 @@ void ClickSomewhere(World& world, Dice& dice) {
     if (controls.isEmpty()) return;
     QWidget& control = *dice.OneOf(controls);
     if (QApplication::activePopupWidget() != nullptr) {
-        world.typedInto = qobject_cast<QLineEdit*>(world.main.window->focusWidget());
+        world.typedInto.insert(qobject_cast<QLineEdit*>(world.main.window->focusWidget()));
     }
     QWindow* const window = active->windowHandle();
     const int way = dice.Below(20);
@@ -80,7 +80,7 @@ void ClickSomewhere(World& world, Dice& dice) {
         if (window != nullptr) SelectByMouse(control, *window, PlaceInWindow(control, dice, false), dice);
     } else if (way == 2) {
         world.Do(QStringLiteral("middle click on ") + NameOf(control));
-        if (qobject_cast<QLineEdit*>(&control) != nullptr) world.typedInto = &control;
+        if (qobject_cast<QLineEdit*>(&control) != nullptr) world.typedInto.insert(&control);
         ClickOnControl(control, dice, Qt::MiddleButton);
     } else if (way < 5 && !IsOfScrollBar(control)) {
         world.Do(QStringLiteral("right click on ") + NameOf(control));

@@ -39,7 +39,7 @@ void DropSomething(World& world, Dice& dice) {
     Fill(data, world, dice);
     world.Do(QStringLiteral("drop of %1 on %2").arg(data.formats().join(QLatin1Char(' ')), NameOf(*target)));
     while (!target->acceptDrops() && !target->isWindow()) target = target->parentWidget();
-    world.typedInto = qobject_cast<QLineEdit*>(target);
+    world.typedInto.insert(qobject_cast<QLineEdit*>(target));
 
     const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction;
     QDragEnterEvent enter({2, 2}, actions, &data, Qt::LeftButton, Qt::NoModifier);

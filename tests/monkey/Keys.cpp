@@ -21,7 +21,7 @@ constexpr std::string_view kTyped = "0123456789012345678901234567890123456789-/.
 
 // What the user writes now goes into the box of the main window that has the focus there.
 void TellTypedInto(World& world) {
-    world.typedInto = qobject_cast<QLineEdit*>(world.main.window->focusWidget());
+    world.typedInto.insert(qobject_cast<QLineEdit*>(world.main.window->focusWidget()));
 }
 
 }  // namespace
@@ -84,9 +84,10 @@ void TypeText(World& world, Dice& dice) {
     }
     const QString text = dice.OneIn(4) ? OddText(world, dice).left(40) : ReadableText(world, dice);
     world.Do(QStringLiteral("text typed: ") + text);
-    TellTypedInto(world);
     for (const QChar character : text) {
-        // The windows may change with every key.
+        // The windows may change with every key, and so may the box with the focus, by the button that clears
+        // it.
+        TellTypedInto(world);
         QWindow* const window = world.Active()->windowHandle();
         const bool isKey = character.unicode() >= 0x20 && character.unicode() < 0x7F;
         if (window != nullptr && isKey) QTest::keyClick(window, character.toLatin1());

@@ -51,7 +51,7 @@ void World::End() {
 }
 
 void World::Forget() {
-    typedInto = nullptr;
+    typedInto.clear();
     startedAnew = false;
     wasReset = false;
     brokenInvariant.clear();

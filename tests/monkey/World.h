@@ -26,8 +26,8 @@ public:
     /// What the event at hand does, in words: told before it is done, so that a crash can be told from it.
     QString doing;
 
-    /// The box that the user writes into in the event at hand; the program writes into all others.
-    const QWidget* typedInto = nullptr;
+    /// The boxes that the user writes into in the event at hand; the program writes into all others.
+    QSet<const QWidget*> typedInto;
 
     /// Whether the window is another one than before the event: the program has been ended and started.
     bool startedAnew = false;

@@ -84,7 +84,9 @@ std::string WrittenTexts(const World& world, const Before& before) {
     const ComputeOptions options = ComputeOptionsSeen(world);
     const ComputeOptions& then = before.options;
     const bool computed = seen.output.size() > before.output.size();
-    const auto byUser = [&world](const char* box) { return world.typedInto == &world.Get<QWidget>(box); };
+    const auto byUser = [&world](const char* box) {
+        return world.typedInto.contains(&world.Get<QWidget>(box));
+    };
     std::string fault;
     if (!byUser("txbFirstDate")) {
         fault = DateBox(before.boxes[0], seen.firstDate, then.firstCalendar, options.firstCalendar, then,
