@@ -80,8 +80,10 @@ bool ScrollingPage::focusNextPrevChild(bool next) {
 
 void ScrollingPage::ShowFocus(const QWidget* focused) {
     if (focused == nullptr || !Page().isAncestorOf(focused)) return;
-    // It would move away under a click, which counts where the button is let go above it.
-    if (QGuiApplication::mouseButtons() != Qt::NoButton && focused->underMouse()) return LookForFocus();
+    // It would move away under a click, which counts where the button is let go above it. What was scrolled
+    // away may still be taken for what is under the mouse.
+    const bool isClicked = QGuiApplication::mouseButtons() != Qt::NoButton && focused->underMouse();
+    if (isClicked && !focused->visibleRegion().isEmpty()) return LookForFocus();
     const QRect place(focused->mapTo(&Page(), QPoint()), focused->size());
     constexpr int kMargin = 12;  // pixels of what stands around it
     // Its far corner first, so that of a control larger than the window the beginning is seen.

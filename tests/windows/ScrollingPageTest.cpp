@@ -56,6 +56,22 @@ private Q_SLOTS:
         QVERIFY(low.ButtonIsInSight());
     }
 
+    void WhatGetsTheFocusByAClickElsewhereIsShown() {
+        LowWindow low;
+        QVERIFY(QTest::qWaitForWindowActive(&low.window));
+        low.below.setFocusPolicy(Qt::ClickFocus);
+        low.below.setFocusProxy(&low.button);
+        low.button.clearFocus();
+        low.button.setAttribute(Qt::WA_UnderMouse);  // as when it was scrolled away under a mouse at rest
+        QScrollBar& bar = *low.page.verticalScrollBar();
+        bar.setValue(bar.maximum());
+        QVERIFY(!low.ButtonIsInSight());
+        const QPoint place = low.below.mapTo(&low.window, low.below.visibleRegion().boundingRect().center());
+        QTest::mouseClick(low.window.windowHandle(), Qt::LeftButton, {}, place);
+        QVERIFY(low.button.hasFocus());
+        QVERIFY(low.ButtonIsInSight());
+    }
+
     void WhatHasTheFocusIsFollowedWhenOtherWordsMoveIt() {
         LowWindow low;
         QVERIFY(QTest::qWaitForWindowActive(&low.window));
