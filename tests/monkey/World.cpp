@@ -69,6 +69,11 @@ void World::Settle() {
     QCoreApplication::processEvents();
     if (const auto* list = Open<frmList>()) WaitForJobs(*list);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // Without a screen a window that was over the whole of it comes back without its size.
+    for (QWidget* window : OpenWindows()) {
+        if (window->size() != window->size().expandedTo(window->minimumSize()))
+            window->resize(window->minimumSize());
+    }
     // What a window manager does when the active window has gone; without a screen it may stay active unseen.
     const QWidget* const active = QApplication::activeWindow();
     const bool isGone = active == nullptr || !active->isVisible();
