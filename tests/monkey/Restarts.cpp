@@ -62,7 +62,8 @@ Settings AsSaved(Settings settings) {
 void EndAndStart(World& world, Dice& dice) {
     if (QApplication::activePopupWidget() != nullptr || QApplication::activeModalWidget() != nullptr) return;
     const Settings seen = SettingsSeen(world);
-    EndByAnyWay(world, dice);
+    // A button that is scrolled out of sight cannot be clicked.
+    if (!EndByAnyWay(world, dice)) world.main.window->QuitAndSave();
     QCoreApplication::processEvents();
     world.End();
     const Settings saved = world.main.Saved();
