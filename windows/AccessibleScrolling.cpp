@@ -37,9 +37,11 @@ public:
 
 private:
     QList<QWidget*> Children() const {
-        const auto& area = *static_cast<QScrollArea*>(object());
-        QList<QWidget*> children{area.viewport()};
-        for (const QScrollBar* bar : {area.horizontalScrollBar(), area.verticalScrollBar()}) {
+        // While it is destroyed it is asked for once more, when its own part has gone.
+        const auto* area = qobject_cast<QScrollArea*>(object());
+        if (area == nullptr) return {};
+        QList<QWidget*> children{area->viewport()};
+        for (const QScrollBar* bar : {area->horizontalScrollBar(), area->verticalScrollBar()}) {
             if (bar->isVisible()) children.append(bar->parentWidget());
         }
         return children;
@@ -47,8 +49,9 @@ private:
 };
 
 QAccessibleInterface* MakeAccessible(const QString& /*className*/, QObject* object) {
-    if (!object->property(kSafeProperty).toBool()) return nullptr;
-    return new AccessibleScrolling(static_cast<QScrollArea*>(object));
+    auto* area = qobject_cast<QScrollArea*>(object);
+    return area != nullptr && area->property(kSafeProperty).toBool() ? new AccessibleScrolling(area)
+                                                                     : nullptr;
 }
 
 }  // namespace
