@@ -35,7 +35,7 @@ if(CALVORO_COVERAGE)
   set(CALVORO_TEST_PATIENCE 5)
 endif()
 
-# A hundred programs are linked with the same large libraries: with gold, where it is at hand, in a fifth of the time.
+# Some sixty programs are linked with the same large libraries: with gold, where it is at hand, in a fifth of the time.
 set(calvoro_test_linker)
 if(NOT CMAKE_CROSSCOMPILING AND NOT CALVORO_SANITIZE AND NOT CALVORO_COVERAGE)
   include(CheckLinkerFlag)
@@ -79,20 +79,10 @@ function(calvoro_test name)
   endif()
 endfunction()
 
-# What moc makes of a test that includes it. CMake's own way (AUTOMOC) starts two programs and compiles one more file
-# for each test program, as it cannot know which sources need it.
-function(calvoro_moc_of_test name source)
-  cmake_path(GET source STEM stem)
-  file(STRINGS ${source} wanted REGEX "^#include \"${stem}\\.moc\"")
-  if(wanted)
-    set(made "${CMAKE_CURRENT_BINARY_DIR}/${name}_moc")
-    qt_generate_moc(${source} "${made}/${stem}.moc" TARGET ${name})
-    target_sources(${name} PRIVATE "${made}/${stem}.moc")
-    target_include_directories(${name} PRIVATE "${made}")
-  endif()
-endfunction()
-
 #   calvoro_window_test(frmMainTest SOURCES ... MAY_USE ...)   one Qt Test program, run offscreen
+#
+# Each source includes what moc makes of it. CMake's own way to it (AUTOMOC) starts two programs and compiles one
+# more file for each test program, as it cannot know which sources need it.
 #
 # X11 runs it on a display of the X Window System instead, for what no other has.
 function(calvoro_window_test name)
@@ -109,8 +99,12 @@ function(calvoro_window_test name)
   target_compile_options(${name} PRIVATE ${calvoro_window_test_options})
   calvoro_use(${name} ${ARG_MAY_USE})
   calvoro_use_precompiled(${name} window_tests)
+  set(mocs "${CMAKE_CURRENT_BINARY_DIR}/${name}_moc")
+  target_include_directories(${name} PRIVATE "${mocs}")
   foreach(source IN LISTS ARG_SOURCES)
-    calvoro_moc_of_test(${name} ${source})
+    cmake_path(GET source STEM stem)
+    qt_generate_moc(${source} "${mocs}/${stem}.moc" TARGET ${name})
+    target_sources(${name} PRIVATE "${mocs}/${stem}.moc")
   endforeach()
   set(platform offscreen)
   set(display)

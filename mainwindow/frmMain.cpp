@@ -209,7 +209,7 @@ void frmMain::keyPressEvent(QKeyEvent* event) {
 }
 
 void frmMain::OnCompute() {
-    // While a computation asks or tells something, a screen reader can still press the button behind it.
+    // While anything is asked or told, a screen reader can still press the button behind it.
     if (QApplication::activeModalWidget() != nullptr) return;
     const ClickOutcome outcome = cmdCompute_Click(computeWindow_, state_.compute);
     const std::string appended = computeWindow_.TakeAppended();

@@ -32,7 +32,7 @@ private:
     void LookForFocus();
     QSize AsRoomAllows(QSize size) const;
 
-    bool focusIsInSight_ = false;
+    bool focusIsInSight_ = false;  // since it was last moved or scrolled: a layout tells when it is done only
 };
 
 }  // namespace calvoro

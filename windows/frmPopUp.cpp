@@ -113,7 +113,7 @@ void frmPopUp::ShowFor(std::int16_t interval) {
         exec();
         return;
     }
-    // It stood already, and whoever showed it waits for its end: a screen reader presses a button behind it.
+    // It stood already, and whoever showed it waits for its end.
     QEventLoop untilItIsGone;
     connect(this, &QDialog::finished, &untilItIsGone, &QEventLoop::quit);
     untilItIsGone.exec();

@@ -5,7 +5,8 @@
 //
 // Widths, heights, offsets and positions are twips, intervals milliseconds; an interval of 0 (or below)
 // leaves the note until it is closed by hand. A note is never smaller than its message needs and never off
-// the screen.
+// the screen. One that is asked for while another is shown, as by a screen reader that presses a button
+// behind it, takes its place.
 
 #include <QDialog>
 #include <QLabel>

@@ -71,8 +71,8 @@ void World::Settle() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     // Without a screen a window that was over the whole of it comes back without its size.
     for (QWidget* window : OpenWindows()) {
-        if (window->size() != window->size().expandedTo(window->minimumSize()))
-            window->resize(window->minimumSize());
+        const QSize least = window->minimumSize();
+        if (window->width() < least.width() || window->height() < least.height()) window->resize(least);
     }
     // What a window manager does when the active window has gone; without a screen it may stay active unseen.
     const QWidget* const active = QApplication::activeWindow();
