@@ -20,7 +20,7 @@ struct Seen {
     ReadOutcome outcome;
 };
 
-Seen Read(const Words& words) {
+Seen See(const Words& words) {
     Seen seen;
     CLI::App command("", "command");
     BeginCommand(command, "[OPTIONS]", "The end.");
@@ -37,7 +37,7 @@ Seen Read(const Words& words) {
 }
 
 TEST(ReadWords, ReadsNothingAsNothing) {
-    const Seen seen = Read({});
+    const Seen seen = See({});
     EXPECT_TRUE(seen.outcome.Runs());
     EXPECT_EQ(seen.value, "unset");
     EXPECT_FALSE(seen.flag);
@@ -56,7 +56,7 @@ void PrintTo(const ValueRow& row, std::ostream* out) {
 class OptionValue : public testing::TestWithParam<ValueRow> {};
 
 TEST_P(OptionValue, IsTakenAsItStands) {
-    const Seen seen = Read(GetParam().words);
+    const Seen seen = See(GetParam().words);
     EXPECT_EQ(seen.outcome.fault, "");
     EXPECT_EQ(seen.value, GetParam().value);
 }
@@ -124,7 +124,7 @@ void PrintTo(const FaultRow& row, std::ostream* out) {
 class Fault : public testing::TestWithParam<FaultRow> {};
 
 TEST_P(Fault, IsNamed) {
-    EXPECT_EQ(Read(GetParam().words).outcome.fault, GetParam().fault);
+    EXPECT_EQ(See(GetParam().words).outcome.fault, GetParam().fault);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -142,22 +142,22 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 TEST(Flag, CountsOnceHoweverOftenItStands) {
-    EXPECT_TRUE(Read({"--flag"}).flag);
-    EXPECT_TRUE(Read({"--flag", "--flag"}).flag);
-    EXPECT_FALSE(Read({"--off"}).on);
-    EXPECT_FALSE(Read({"--off", "--off"}).on);
+    EXPECT_TRUE(See({"--flag"}).flag);
+    EXPECT_TRUE(See({"--flag", "--flag"}).flag);
+    EXPECT_FALSE(See({"--off"}).on);
+    EXPECT_FALSE(See({"--off", "--off"}).on);
 }
 
 TEST(Flag, CanBeTakenBack) {
-    EXPECT_FALSE(Read({"--flag", "--flag=false"}).flag);
-    EXPECT_TRUE(Read({"--off", "--off=false"}).on);
+    EXPECT_FALSE(See({"--flag", "--flag=false"}).flag);
+    EXPECT_TRUE(See({"--off", "--off=false"}).on);
 }
 
 TEST(ReadWords, AnswersWithHelpAndVersion) {
-    EXPECT_TRUE(Read({"--help"}).outcome.answer.ends_with("\nThe end.\n"));
-    EXPECT_EQ(Read({"-h"}).outcome.answer, Read({"--help"}).outcome.answer);
-    EXPECT_TRUE(Read({"--version"}).outcome.answer.starts_with("calvoro-cli "));
-    EXPECT_TRUE(Read({"--value", "--help"}).outcome.Runs());
+    EXPECT_TRUE(See({"--help"}).outcome.answer.ends_with("\nThe end.\n"));
+    EXPECT_EQ(See({"-h"}).outcome.answer, See({"--help"}).outcome.answer);
+    EXPECT_TRUE(See({"--version"}).outcome.answer.starts_with("calvoro-cli "));
+    EXPECT_TRUE(See({"--value", "--help"}).outcome.Runs());
 }
 
 }  // namespace
