@@ -248,6 +248,11 @@ TEST(ParseSettingsText, IgnoresWhatStandsBehindTheLastLine) {
 TEST(ParseSettingsText, NeedsNoLineEndAfterTheLastLine) {
     EXPECT_EQ(ParseSettingsText(kFactoryText.substr(0, kFactoryText.size() - 2)), Settings{});
     EXPECT_EQ(ParseSettingsText(kFactoryText.substr(0, kFactoryText.size() - 1)), Settings{});
+    // Read as a file whose lines end with LF, the output would get another line end.
+    Settings settings;
+    settings.output = "a\nb\r\n";
+    const std::string whole = SettingsText(settings);
+    EXPECT_EQ(ParseSettingsText(whole.substr(0, whole.size() - 1)), settings);
 }
 
 TEST(ParseSettingsText, KeepsNulBytes) {

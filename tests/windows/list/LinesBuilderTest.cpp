@@ -66,6 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
         TextRow{"QuotedTwice", "\"1\r\n\",\"2\n\n3\"x\r\nb\r\n", true, {"\"1\r\n\",\"2\n\n3\"x", "b"}, 2},
         TextRow{"QuotedSemicolonsBeforeALineEnd", "\"a;2;\n\",1\n", true, {"\"a;2;\n\",1"}, 2},
         TextRow{"DoubledQuotes", "\"a\"\"\nb\",1\n2\n", true, {"\"a\"\"\nb\",1", "2"}, 2},
+        TextRow{"EmptyQuotes", "\"\",x\n\"y\"\n", true, {"\"\",x", "\"y\""}, 2},
         TextRow{"QuotesNeverClosed", "\"1\n2,3\n4\n", true, {"\"1", "2,3", "4"}, 2},
         TextRow{"QuotesInside", "a\"b\n1\"\n", true, {"a\"b", "1\""}, 1},
         TextRow{"QuotesOutsideCsv", "\"a\nb\"\n", false, {"\"a", "b\""}, 1}),

@@ -47,6 +47,11 @@ TEST(Fields, KeepTheRestInTheLastOne) {
     EXPECT_EQ(Texts("a,b", kCsv, 1), Strings{"a,b"});
 }
 
+TEST(Fields, AreOneWhereNothingDividesThem) {
+    EXPECT_EQ(CountFields("a,b\tc", kPlain), 1);
+    EXPECT_EQ(CountFields("", kPlain), 1);
+}
+
 TEST(Fields, AreFoundOneByOneAsAllAtOnce) {
     for (const std::string line : {"a,b,,c", "", ",", "\"a,b\",c", "\"a,\",b", "\"a,b", "a,\"b\nc\",d"}) {
         std::vector<std::string_view> fields;
