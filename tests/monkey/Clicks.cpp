@@ -19,13 +19,6 @@ QList<QWidget*> ControlsInSight(const QWidget& window) {
     return controls;
 }
 
-// Whether a click on a control would end the program, by a button that lies on it: what follows an end is for
-// EndAndStart alone.
-bool WouldEnd(const QWidget& control, QPoint place) {
-    const QWidget* const below = control.window()->childAt(place);
-    return below != nullptr && below != &control && below->objectName() == QLatin1String("cmdQuit");
-}
-
 // Its menu is the toolkit's, which on a platform without a screen never comes back from it.
 bool IsOfScrollBar(const QWidget& control) {
     return qobject_cast<const QScrollBar*>(&control) != nullptr ||
@@ -61,7 +54,7 @@ bool ClickOnControl(QWidget& control, Dice& dice, Qt::MouseButton button, bool a
     QWindow* const window = control.window()->windowHandle();
     if (window == nullptr || control.visibleRegion().isEmpty()) return false;
     const QPoint place = PlaceInWindow(control, dice, atMark);
-    if (!QRect(QPoint(), window->size()).contains(place) || WouldEnd(control, place)) return false;
+    if (!QRect(QPoint(), window->size()).contains(place)) return false;
     const QWidget* const below = control.window()->childAt(place);
     if (button == Qt::RightButton && below != nullptr && IsOfScrollBar(*below)) return false;
     QTest::mouseClick(window, button, modifiers, place);
@@ -81,8 +74,7 @@ void ClickSomewhere(World& world, Dice& dice) {
     if (way == 0) {
         world.Do(QStringLiteral("double click on ") + NameOf(control));
         const QPoint place = PlaceInWindow(control, dice, false);
-        if (window != nullptr && !WouldEnd(control, place))
-            QTest::mouseDClick(window, Qt::LeftButton, Qt::NoModifier, place);
+        if (window != nullptr) QTest::mouseDClick(window, Qt::LeftButton, Qt::NoModifier, place);
     } else if (way == 1) {
         world.Do(QStringLiteral("selection by mouse in ") + NameOf(control));
         if (window != nullptr) SelectByMouse(control, *window, PlaceInWindow(control, dice, false), dice);

@@ -38,8 +38,11 @@ void World::StartWithFile() {
     Prepare();
 }
 
-// The clock strikes as an event, not when time has passed.
 void World::Prepare() {
+    quitWasClicked_ = false;
+    QObject::connect(&Get<QAbstractButton>("cmdQuit"), &QAbstractButton::clicked,
+                     [this] { quitWasClicked_ = true; });
+    // The clock strikes as an event, not when time has passed.
     Get<QTimer>("Clock").setInterval(std::numeric_limits<int>::max());
     weekStart = startedWith.monthWeekStart;
     monthCalendar = startedWith.monthCalendar;
@@ -67,6 +70,11 @@ void World::Forget() {
 
 void World::Settle() {
     QCoreApplication::processEvents();
+    // The second click of two may meet it, where the first has moved the page: that ends the program, too.
+    if (quitWasClicked_) {
+        End();
+        StartWithFile();
+    }
     if (const auto* list = Open<frmList>()) WaitForJobs(*list);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     // Without a screen a window that was over the whole of it comes back without its size.

@@ -99,6 +99,7 @@ private:
     void MakeFiles() const;
     void Prepare();
 
+    bool quitWasClicked_ = false;
     QTemporaryDir files_;
 };
 

@@ -76,6 +76,7 @@ class Run:
         tests = sorted({test for file in self.files() for test in layers.tests_of(file)} - set(self.options.without))
         place = room.Room(_CHECKOUT, self.options.place)
         place.prepare(tests, self.options.jobs)
+        place.check_made_of(self.files())
         for test in self.options.without:
             place.leave_out(test)
         seconds = trial.measure(place, tests, place.place / "measured")

@@ -11,6 +11,7 @@ sys.path.insert(0, str(Path(__file__).parent))
 import equivalents  # noqa: E402
 import mutations  # noqa: E402
 import results  # noqa: E402
+import room  # noqa: E402
 import sample  # noqa: E402
 import trial  # noqa: E402
 
@@ -185,6 +186,25 @@ class Results(unittest.TestCase):
             share = 100 * (len(mutants) - 1) / len(mutants)
             self.assertAlmostEqual(results.report(mutants, again, set()), share)
             self.assertEqual(results.report(mutants, again, {mutants[0].key}), 100)
+
+
+class Files(unittest.TestCase):
+    def test_are_known_by_every_name_that_the_compiler_has_for_them(self):
+        for path, file in {
+            "/w/tree/cli/A.cpp": "cli/A.cpp", "../tree/cli/A.cpp": "cli/A.cpp",
+            "/w/build/include_roots/cli/cli/A.h": "cli/A.h", "include_roots/cli/cli/A.h": "cli/A.h",
+            "/usr/include/A.h": None, "generated/A.h": None, "/w/trees/A.h": None,
+        }.items():
+            with self.subTest(path):
+                self.assertEqual(room.file_of_tree(path, Path("/w/tree"), Path("/w/build")), file)
+
+    def test_of_which_nothing_is_made_are_told(self):
+        place = room.Room("/c", "/w")
+        place.objects = {"test": ["a.o"]}
+        place.made_of = {"a.o": {"A.cpp", "A.h"}, "b.o": {"B.h"}}
+        place.check_made_of(["A.cpp", "A.h"])
+        with self.assertRaises(RuntimeError):
+            place.check_made_of(["A.h", "B.h"])
 
 
 class Running(unittest.TestCase):

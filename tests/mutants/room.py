@@ -1,6 +1,7 @@
 """A copy of the tree with a build of its own, where mutants are made and tried. The checkout is only read."""
 
 import json
+import os
 import re
 import shlex
 import shutil
@@ -13,8 +14,17 @@ import layers
 _CONFIGURATION = [
     "-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O1", "-DCMAKE_CXX_COMPILER=clang++",
     "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld", "-DCALVORO_BUILD_WINDOW=OFF", "-DCALVORO_STATIC_RUNTIME=OFF",
-    "-DCALVORO_PRECOMPILE_TESTS=ON",
 ]
+
+
+def file_of_tree(path, tree, build):
+    """Which file of a tree the compiler means that names a path, from its build folder or from the root; None for one
+    that is not of the tree. An include root holds links to the folders, by their names."""
+    path = os.path.normpath(Path(build) / path)
+    below = re.fullmatch(re.escape(f"{build}/include_roots/") + "[^/]+/(.*)", path)
+    if below:
+        return below.group(1)
+    return path.removeprefix(f"{tree}/") if path.startswith(f"{tree}/") else None
 
 
 class Room:
@@ -51,6 +61,14 @@ class Room:
                 subprocess.run(words, cwd=self.build, check=True, capture_output=True)
                 self.compared[name] = to.read_bytes()
             return self.compared[name]
+
+    def check_made_of(self, files):
+        """Every change of a file would be taken for the same code if no object were known to be made of it.
+        throws   RuntimeError  naming such a file"""
+        made_of = set().union(*(self.made_of.get(name, set()) for names in self.objects.values() for name in names))
+        for file in files:
+            if file not in made_of:
+                raise RuntimeError(f"no object of the tests is made of {file}")
 
     def leave_out(self, test):
         """Has a test do without being run."""
@@ -104,18 +122,14 @@ class Room:
         # object -> the files of the tree that it is made of
         self.made_of = {}
         name = None
-        root = re.compile(r".*?/include_roots/[^/]+/(.*)")
         for line in self._ninja("-t", "deps").splitlines():
             if not line.startswith(" "):
                 name = line.split(":")[0]
                 self.made_of[name] = set()
                 continue
-            path = line.strip()
-            below = root.fullmatch(path)
-            if below:
-                self.made_of[name].add(below.group(1))
-            elif path.startswith(str(self.tree)):
-                self.made_of[name].add(str(Path(path).relative_to(self.tree)))
+            file = file_of_tree(line.strip(), self.tree, self.build)
+            if file:
+                self.made_of[name].add(file)
         for name, words in self.compile.items():
             if words[-1].startswith(str(self.tree)):
                 self.made_of.setdefault(name, set()).add(str(Path(words[-1]).relative_to(self.tree)))
