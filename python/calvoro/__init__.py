@@ -15,8 +15,8 @@ JDN   day number; day 0 is 1 January -4712 of the Julian      2460370
       Calendar, a Monday
 ====  ======================================================  ==============
 
-Every function takes a single value, a list, a NumPy array or a pandas Series, and answers in kind. What is
-read is read strictly, unless ``lenient=True``: then as the window of the program reads. A date that is refused
+Every function but :func:`month` and :func:`compute` takes a single value, a list, a NumPy array or a pandas
+Series, and answers in kind. What is read is read strictly, unless ``lenient=True``: then as the window of the program reads. A date that is refused
 raises :class:`DateError`; with ``errors="coerce"`` it is missing instead: ``None`` in place of a single value
 and in a list, masked in a NumPy array (``numpy.ma``), missing in a Series.
 
