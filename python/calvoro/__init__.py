@@ -16,9 +16,9 @@ JDN   day number; day 0 is 1 January -4712 of the Julian      2460370
 ====  ======================================================  ==============
 
 Every function but :func:`month` and :func:`compute` takes a single value, a list, a NumPy array or a pandas
-Series, and answers in kind. What is read is read strictly, unless ``lenient=True``: then as the window of the program reads. A date that is refused
-raises :class:`DateError`; with ``errors="coerce"`` it is missing instead: ``None`` in place of a single value
-and in a list, masked in a NumPy array (``numpy.ma``), missing in a Series.
+Series, and answers in kind. What is read is read strictly, unless ``lenient=True``: then as the window of the
+program reads. A date that is refused raises :class:`DateError`; with ``errors="coerce"`` it is missing instead:
+``None`` in place of a single value and in a list, masked in a NumPy array (``numpy.ma``), missing in a Series.
 
 >>> import calvoro
 >>> calvoro.convert("2024-02-29", "CE", "ISO")
