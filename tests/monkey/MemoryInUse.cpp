@@ -9,7 +9,13 @@
 namespace calvoro::monkey {
 namespace {
 
+// What has been asked for and not been given back.
 std::uint64_t BytesInUse() {
+    const struct mallinfo2 info = ::mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+std::uint64_t BytesResident() {
     ::malloc_trim(0);  // what is given back already counts no more
     std::ifstream file("/proc/self/statm");
     std::uint64_t size = 0;
@@ -21,7 +27,7 @@ std::uint64_t BytesInUse() {
 }  // namespace
 
 void MemoryInUse::After(std::uint64_t events) {
-    if (every_ != 0 && events % every_ == 0) looks_.push_back({events, BytesInUse()});
+    if (every_ != 0 && events % every_ == 0) looks_.push_back({events, BytesInUse(), BytesResident()});
 }
 
 void MemoryInUse::Waste() {
@@ -51,8 +57,9 @@ double MemoryInUse::BytesAnEvent() const {
 
 bool MemoryInUse::Tell() const {
     for (const Look& look : looks_) {
-        std::printf("%llu events: %.1f MB\n", static_cast<unsigned long long>(look.events),
-                    static_cast<double>(look.bytes) / 1e6);
+        std::printf("%llu events: %.1f MB in use, %.1f MB resident\n",
+                    static_cast<unsigned long long>(look.events), static_cast<double>(look.bytes) / 1e6,
+                    static_cast<double>(look.resident) / 1e6);
     }
     constexpr std::size_t kFewest = 6;
     if (looks_.size() < kFewest) {

@@ -18,8 +18,9 @@ public:
     /// A lie for the test of the monkey: memory that nobody gives back, much in so short a time.
     void Waste();
 
-    /// Prints what was seen: bytes in use at each look, and how fast they grew over the second half, which
-    /// leaves out what fills up once.
+    /// Prints what was seen at each look: bytes in use, and bytes resident, which hold what the allocator
+    /// keeps between them. Then how fast those in use grew over the second half, which leaves out what
+    /// fills up once.
     /// returns  whether that is slow enough
     bool Tell() const;
 
@@ -30,6 +31,7 @@ private:
     struct Look {
         std::uint64_t events;
         std::uint64_t bytes;
+        std::uint64_t resident;
     };
 
     double BytesAnEvent() const;
