@@ -3,14 +3,19 @@
 #include <malloc.h>
 #include <unistd.h>
 
+#include <cstddef>
 #include <cstdio>
 #include <fstream>
+
+// Of the sanitizers, which have an allocator of their own.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
 
 namespace calvoro::monkey {
 namespace {
 
 // What has been asked for and not been given back.
 std::uint64_t BytesInUse() {
+    if (__sanitizer_get_current_allocated_bytes != nullptr) return __sanitizer_get_current_allocated_bytes();
     const struct mallinfo2 info = ::mallinfo2();
     return info.uordblks + info.hblkhd;
 }
