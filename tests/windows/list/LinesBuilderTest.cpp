@@ -105,12 +105,14 @@ INSTANTIATE_TEST_SUITE_P(Rows, NoList,
                          RowName<FaultRow>);
 
 TEST(LinesBuilder, TakesLinesOfOneMebibyteAndNoneLonger) {
-    const std::string longest(kLongestLine, '1');
+    // In figures of its own: the message tells the user of 1 MiB.
+    constexpr std::size_t kMebibyte = 1'048'576;
+    const std::string longest(kMebibyte, '1');
     for (const char* end : {"", "\n", "\r\n", "\n2\n", "\r\n2\n"}) {
         const auto lines = LinesOf(longest + end);
         ASSERT_NE(lines, nullptr) << end;
         ListLines::Cursor cursor;
-        EXPECT_EQ(lines->Line(0, cursor).size(), kLongestLine);
+        EXPECT_EQ(lines->Line(0, cursor).size(), kMebibyte);
         LinesBuilder builder("0\n" + longest + "1" + end, false);
         RunToEnd(builder);
         EXPECT_EQ(builder.Refusal().fault, ListFault::LineTooLong) << end;
@@ -134,10 +136,14 @@ TEST(LinesBuilder, TakesCharactersAcrossItsPieces) {
     EXPECT_EQ(AllLines(*LinesOf(text)), Strings{text});
 }
 
-TEST(LinesBuilder, GivesTheLastOfMoreColumnsThanItCountsTheRest) {
-    std::string line = "0";
-    for (int i = 1; i < 1000; ++i) line += "\t" + std::to_string(i);
-    EXPECT_EQ(LinesOf(line)->Columns(), ListLines::kMostColumns);
+TEST(LinesBuilder, CountsUpTo256Columns) {
+    const auto columnsOf = [](std::size_t fields) {
+        return LinesOf("0" + std::string(fields - 1, '\t'))->Columns();
+    };
+    EXPECT_EQ(columnsOf(255), 255U);
+    EXPECT_EQ(columnsOf(256), 256U);
+    EXPECT_EQ(columnsOf(257), 256U);
+    EXPECT_EQ(columnsOf(1000), 256U);
 }
 
 TEST(LinesBuilder, TellsHowFarItIs) {
