@@ -111,8 +111,8 @@ int main(int argc, char* argv[]) {
     g_monkey = &monkey;
     TellWhereInEveryCrash();
     const bool watchesMemory = parser.isSet(QStringLiteral("memory"));
-    // The toolkit's cache of pictures is bounded, but not its list of their names, which keeps those that were
-    // thrown out (some 125 bytes each, seen with Qt 6.4.2): with each new size or colour of a control it grows.
+    // The toolkit's cache of pictures is bounded, but it keeps the names of those that were thrown out (some
+    // 125 bytes each with Qt 6.4.2): it grows with each new size or colour of a control.
     if (watchesMemory) QPixmapCache::setCacheLimit(0);
     MemoryInUse memory(watchesMemory ? value("sample") : 0);
     std::uint64_t done = 0;
