@@ -3,7 +3,7 @@
 //
 // Plays with the windows and tells the first event after which an invariant does not hold, by number and in
 // words. The same seed and numbers play the same again; --only leaves out all events but these, to find those
-// that it takes. --memory records the memory in use and fails when it grows; nothing is looked at but that.
+// that it takes. --memory records the memory in use as well and fails when it grows.
 
 #include <unistd.h>
 #include <QApplication>
